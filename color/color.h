@@ -1,7 +1,7 @@
 #pragma once
 
 #include <cstdint>
-#include <cstring>
+#include <bit>
 
 // One pixel: four bytes in memory blue, green, red, alpha, so that the 32-bit
 // little-endian word reads 0xAARRGGBB. Tileset files and textures rely on it.
@@ -15,16 +15,8 @@ struct Color {
     constexpr Color(uint8_t r, uint8_t g, uint8_t b, uint8_t a = 255)
         : blue(b), green(g), red(r), alpha(a) {}
 
-    uint32_t word() const {
-        uint32_t w;
-        std::memcpy(&w, this, sizeof w);
-        return w;
-    }
-    static Color from_word(uint32_t w) {
-        Color c;
-        std::memcpy(&c, &w, sizeof w);
-        return c;
-    }
+    uint32_t word() const { return std::bit_cast<uint32_t>(*this); }
+    static Color from_word(uint32_t w) { return std::bit_cast<Color>(w); }
     bool operator==(const Color& other) const { return word() == other.word(); }
 };
 static_assert(sizeof(Color) == 4, "a colour is exactly four bytes");

@@ -1,0 +1,234 @@
+#include "app/main_window.h"
+
+#include <algorithm>
+#include <string_view>
+
+#include "app/fatal.h"
+#include "app/sprites.h"
+#include "app/strip_layout.h"
+#include "app/texture.h"
+#include "app/ui_colors.h"
+#include "ui/image_pool.h"
+#include "ui/text_writer.h"
+
+Main_Window::Main_Window(uint32_t width, uint32_t height) : w(width), h(height) {
+    if (!SDL_CreateWindowAndRenderer("Mosswick", int(w), int(h), 0, &sdl_window, &sdl_renderer))
+        fatal_error("Unable to create window or renderer.");
+    SDL_SetRenderDrawBlendMode(sdl_renderer, SDL_BLENDMODE_BLEND);
+    image_pool = std::make_unique<Image_Pool>();
+    sheet_texture.reset(Texture::from_surface(sdl_renderer, image_pool->image().surface()));
+    show_cursor(true);
+    for (int f = 0; f < font_count; ++f)
+        writers[f] = std::make_unique<Text_Writer>(f, *image_pool, sdl_renderer, *sheet_texture);
+}
+
+Main_Window::~Main_Window() {
+    for (auto& writer : writers) writer.reset();
+    sheet_texture.reset();
+    image_pool.reset();
+    SDL_DestroyRenderer(sdl_renderer);
+    SDL_DestroyWindow(sdl_window);
+}
+
+void Main_Window::clear() {
+    set_color(ui_colors[background_color_index]);
+    SDL_RenderClear(sdl_renderer);
+}
+
+void Main_Window::present() { SDL_RenderPresent(sdl_renderer); }
+
+void Main_Window::set_title(const std::string& name) {
+    const std::string title = "Mosswick 0.88 - " + name;
+    SDL_SetWindowTitle(sdl_window, title.c_str());
+}
+
+const char* Main_Window::renderer_name() const { return SDL_GetRendererName(sdl_renderer); }
+
+void Main_Window::set_color(Color c) { SDL_SetRenderDrawColor(sdl_renderer, c.red, c.green, c.blue, c.alpha); }
+
+void Main_Window::fill_rect(const Rectangle& rect, Color c) {
+    set_color(c);
+    scratch = {float(rect.x), float(rect.y), float(rect.width), float(rect.height)};
+    SDL_RenderFillRect(sdl_renderer, &scratch);
+}
+
+void Main_Window::line(int x1, int y1, int x2, int y2, Color c) {
+    set_color(c);
+    SDL_RenderLine(sdl_renderer, float(x1), float(y1), float(x2), float(y2));
+}
+
+void Main_Window::point(int x, int y, Color c) {
+    set_color(c);
+    SDL_RenderPoint(sdl_renderer, float(x), float(y));
+}
+
+void Main_Window::dotted_line(int x, int y, int length, int step_x, int step_y, Color c, bool skip_first) {
+    if (skip_first) {
+        x += step_x;
+        y += step_y;
+        --length;
+    }
+    set_color(c);
+    for (int i = 0; i < length / 2; ++i)
+        SDL_RenderPoint(sdl_renderer, float(x + 2 * i * step_x), float(y + 2 * i * step_y));
+}
+
+void Main_Window::frame(const Rectangle& r, Color c) {
+    Color light = c;
+    darken(light, 15);
+    Color dark = c;
+    darken(dark, 40);
+    line(r.x, r.y, r.x + r.width - 1, r.y, light);
+    line(r.x, r.y, r.x, r.y + r.height - 1, light);
+    line(r.x, r.y + r.height - 1, r.x + r.width - 1, r.y + r.height - 1, dark);
+    line(r.x + r.width - 1, r.y, r.x + r.width - 1, r.y + r.height - 1, dark);
+}
+
+void Main_Window::bevel(const Rectangle& r, Color c, bool sunken) {
+    const double amount = 255.0 * luminance(c);
+    const double corner = amount / 3;
+    c.alpha = 255;
+    Color light = c;
+    Color dark = c;
+    if (sunken) {
+        darken(light, amount);
+        lighten(dark, amount);
+    } else {
+        lighten(light, amount);
+        darken(dark, amount);
+    }
+    Color corner_light = light;
+    Color corner_dark = dark;
+    if (sunken) {
+        darken(corner_light, corner);
+        lighten(corner_dark, corner);
+    } else {
+        lighten(corner_light, corner);
+        darken(corner_dark, corner);
+    }
+    const int right = r.x + r.width - 1;
+    const int bottom = r.y + r.height - 1;
+    point(r.x, r.y, corner_light);
+    point(right, r.y, c);
+    point(r.x, bottom, c);
+    point(right, bottom, corner_dark);
+    if (r.width > 2) {
+        line(r.x + 1, r.y, right - 1, r.y, light);
+        line(r.x + 1, bottom, right - 1, bottom, dark);
+    }
+    if (r.height > 2) {
+        line(r.x, r.y + 1, r.x, bottom - 1, light);
+        line(right, r.y + 1, right, bottom - 1, dark);
+    }
+}
+
+void Main_Window::bevel_fill(const Rectangle& r, Color c) {
+    fill_rect(Rectangle{r.x + 1, r.y + 1, r.width - 2, r.height - 2}, c);
+    bevel(r, c, false);
+}
+
+void Main_Window::draw_sprite_rect(const SDL_FRect& source, float x, float y, float dw, float dh) {
+    scratch = {x, y, dw, dh};
+    SDL_RenderTexture(sdl_renderer, sheet_texture->sdl(), &source, &scratch);
+}
+
+void Main_Window::sprite(int id, int x, int y) {
+    const SDL_FRect& r = image_pool->sprite_rect(id);
+    draw_sprite_rect(r, float(x), float(y), r.w, r.h);
+}
+
+void Main_Window::sprite_part(int id, int x, int y, int source_x, int source_y, int pw, int ph) {
+    const SDL_FRect& r = image_pool->sprite_rect(id);
+    scratch_source = {r.x + float(source_x), r.y + float(source_y), float(pw), float(ph)};
+    draw_sprite_rect(scratch_source, float(x), float(y), float(pw), float(ph));
+}
+
+void Main_Window::sprite_strip_h(int x, int y, const SDL_FRect& r, int length) {
+    for_each_strip_piece(length, int(r.w), [&](int offset, int source, int drawn) {
+        scratch_source = {r.x, r.y, float(source), r.h};
+        draw_sprite_rect(scratch_source, float(x + offset), float(y), float(drawn), r.h);
+    });
+}
+
+void Main_Window::sprite_strip_v(int x, int y, const SDL_FRect& r, int length) {
+    for_each_strip_piece(length, int(r.h), [&](int offset, int source, int drawn) {
+        scratch_source = {r.x, r.y, r.w, float(source)};
+        draw_sprite_rect(scratch_source, float(x), float(y + offset), r.w, float(drawn));
+    });
+}
+
+namespace {
+// Each kind has four pieces: thin horizontal, thin vertical, thick horizontal, thick vertical.
+int edge_sprite(Edge_Kind kind, bool vertical, int s) {
+    return sprite_horiz_selector_one + 4 * int(kind) + (s > 6 ? 2 : 0) + (vertical ? 1 : 0);
+}
+}  // namespace
+
+void Main_Window::edge_h(Edge_Kind kind, int x, int y, int s, bool phase) {
+    const SDL_FRect& r = image_pool->sprite_rect(edge_sprite(kind, false, s));
+    scratch_source = {r.x + (phase ? r.h : 0.0f), r.y, float(s), r.h};
+    draw_sprite_rect(scratch_source, float(x), float(y), float(s), r.h);
+}
+
+void Main_Window::edge_v(Edge_Kind kind, int x, int y, int s, bool phase) {
+    const SDL_FRect& r = image_pool->sprite_rect(edge_sprite(kind, true, s));
+    scratch_source = {r.x, r.y + (phase ? r.w : 0.0f), r.w, float(s)};
+    draw_sprite_rect(scratch_source, float(x), float(y), r.w, float(s));
+}
+
+int Main_Window::text(int x, int y, const char* text) { return writers[font_regular]->write_at(x, y, text); }
+
+int Main_Window::text_width(const char* text) const { return writers[font_regular]->measure(text); }
+
+int Main_Window::line_height() const { return writers[font_regular]->line_height(); }
+
+int Main_Window::lines_on_screen() const { return int(h) / line_height(); }
+
+Texture* Main_Window::text_texture(const char* text, int font) {
+    const int width = image_pool->text_width(font, text);
+    if (width <= 0) return nullptr;
+    SDL_Surface* surface = SDL_CreateSurface(width, font_table[font].glyph_height, SDL_PIXELFORMAT_ARGB8888);
+    if (!surface) return nullptr;
+    image_pool->blit_text(font, text, 0, 0, surface);
+    Texture* texture = Texture::from_surface(sdl_renderer, surface);
+    SDL_DestroySurface(surface);
+    return texture;
+}
+
+Texture* Main_Window::text_texture_lines(const char* text, int font) {
+    const int width = writers[font]->measure(text);
+    if (width <= 0) return nullptr;
+    const std::string_view all(text);
+    const int lines = 1 + int(std::count(all.begin(), all.end(), '\r'));
+    const int line_h = font_table[font].glyph_height;
+    SDL_Surface* surface = SDL_CreateSurface(width, lines * line_h, SDL_PIXELFORMAT_ARGB8888);
+    if (!surface) return nullptr;
+    size_t start = 0;
+    for (int row = 0; row < lines; ++row) {
+        const size_t end = std::min(all.find('\r', start), all.size());
+        const std::string line(all.substr(start, end - start));
+        image_pool->blit_text(font, line.c_str(), 0, row * line_h, surface);
+        start = end + 1;
+    }
+    Texture* texture = Texture::from_surface(sdl_renderer, surface);
+    SDL_DestroySurface(surface);
+    return texture;
+}
+
+void Main_Window::show_cursor(bool on) {
+    if (on)
+        SDL_ShowCursor();
+    else
+        SDL_HideCursor();
+}
+
+void Main_Window::warp(int x, int y) { SDL_WarpMouseInWindow(sdl_window, float(x), float(y)); }
+
+void Main_Window::relative_mouse(bool on) { SDL_SetWindowRelativeMouseMode(sdl_window, on); }
+
+SDL_Point Main_Window::mouse_position() const {
+    float x = 0;
+    float y = 0;
+    SDL_GetMouseState(&x, &y);
+    return SDL_Point{int(x), int(y)};
+}

@@ -1,0 +1,38 @@
+#pragma once
+
+#include <SDL3/SDL.h>
+
+#include "color/color.h"
+#include "ui/rectangle.h"
+
+// A GPU image with a stored source and destination rectangle, so that drawing
+// it allocates nothing.
+class Texture {
+public:
+    // Fatal when SDL cannot make the texture. The surface stays the caller's.
+    static Texture* from_surface(SDL_Renderer* renderer, SDL_Surface* surface);
+    // A streaming RGBA8888 texture filled from tightly packed colours.
+    static Texture* from_pixels(SDL_Renderer* renderer, const Color* pixels, int width, int height);
+    ~Texture();
+    Texture(const Texture&) = delete;
+    Texture& operator=(const Texture&) = delete;
+
+    // Copies the colours into a streaming texture: each pixel's bytes go to
+    // the RGBA8888 layout as alpha, blue, green, red.
+    void update(const Color* pixels);
+    void draw();
+    void draw_at(int x, int y);
+    void draw_in(const Rectangle& rect);
+
+    int width() const { return static_cast<int>(source.w); }
+    int height() const { return static_cast<int>(source.h); }
+    SDL_Texture* sdl() const { return texture; }
+    SDL_FRect source{};
+    SDL_FRect destination{};
+
+private:
+    Texture(SDL_Texture* texture, SDL_Renderer* renderer, int width, int height);
+
+    SDL_Texture* texture;
+    SDL_Renderer* renderer;
+};

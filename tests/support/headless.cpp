@@ -1,0 +1,125 @@
+#include "support/headless.h"
+
+#include <unistd.h>
+
+#include <cstdlib>
+
+#include "app/application.h"
+#include "app/data_directory.h"
+#include "app/globals.h"
+#include "app/main_window.h"
+
+namespace fs = std::filesystem;
+
+fs::path source_path(const std::string& relative) { return fs::path(MOSSWICK_SOURCE_DIR) / relative; }
+
+Temp_Dir::Temp_Dir() {
+    std::string pattern = (fs::temp_directory_path() / "mosswick-test-XXXXXX").string();
+    if (!mkdtemp(pattern.data())) std::abort();
+    path = pattern;
+}
+
+Temp_Dir::~Temp_Dir() {
+    std::error_code ignored;
+    fs::remove_all(path, ignored);
+}
+
+void Headless::SetUp() {
+    previous_dir = fs::current_path();
+    Temp_Dir dir;
+    work_dir = dir.path;
+    dir.path.clear();  // kept until TearDown
+    fs::create_directory(work_dir / "data");
+    fs::copy_file(source_path("data/pool.bmp"), work_dir / "data" / "pool.bmp");
+    fs::current_path(work_dir);
+    SDL_SetHint(SDL_HINT_VIDEO_DRIVER, "dummy");
+    ASSERT_TRUE(SDL_InitSubSystem(SDL_INIT_VIDEO)) << SDL_GetError();
+    Application::start_up();
+    drop_pending_events();
+}
+
+void Headless::TearDown() {
+    Application::shut_down();
+    SDL_QuitSubSystem(SDL_INIT_VIDEO);
+    SDL_Quit();
+    fs::current_path(previous_dir);
+    std::error_code ignored;
+    fs::remove_all(work_dir, ignored);
+}
+
+void Headless::drop_pending_events() {
+    SDL_PumpEvents();
+    SDL_FlushEvents(SDL_EVENT_FIRST, SDL_EVENT_LAST);
+}
+
+namespace {
+SDL_WindowID window_id() { return SDL_GetWindowID(g_main_window->window()); }
+}  // namespace
+
+void Headless::push_key(SDL_Keycode key, SDL_Keymod mod) {
+    for (bool down : {true, false}) {
+        SDL_Event e{};
+        e.type = down ? SDL_EVENT_KEY_DOWN : SDL_EVENT_KEY_UP;
+        e.key.windowID = window_id();
+        e.key.key = key;
+        e.key.scancode = SDL_GetScancodeFromKey(key, nullptr);
+        e.key.mod = mod;
+        e.key.down = down;
+        SDL_PushEvent(&e);
+    }
+}
+
+void Headless::push_text_key(char c) { push_key(SDL_Keycode(static_cast<unsigned char>(c))); }
+
+void Headless::push_button(int x, int y, bool down, Uint8 button) {
+    SDL_Event e{};
+    e.type = down ? SDL_EVENT_MOUSE_BUTTON_DOWN : SDL_EVENT_MOUSE_BUTTON_UP;
+    e.button.windowID = window_id();
+    e.button.button = button;
+    e.button.down = down;
+    e.button.clicks = 1;
+    e.button.x = float(x);
+    e.button.y = float(y);
+    SDL_PushEvent(&e);
+}
+
+void Headless::push_click(int x, int y, Uint8 button) {
+    push_button(x, y, true, button);
+    push_button(x, y, false, button);
+}
+
+void Headless::push_motion(int x, int y, Uint32 buttons) {
+    SDL_Event e{};
+    e.type = SDL_EVENT_MOUSE_MOTION;
+    e.motion.windowID = window_id();
+    e.motion.state = buttons;
+    e.motion.x = float(x);
+    e.motion.y = float(y);
+    SDL_PushEvent(&e);
+}
+
+void Headless::push_quit() {
+    SDL_Event e{};
+    e.type = SDL_EVENT_QUIT;
+    SDL_PushEvent(&e);
+}
+
+void Headless::push_close_request() {
+    SDL_Event e{};
+    e.type = SDL_EVENT_WINDOW_CLOSE_REQUESTED;
+    e.window.windowID = window_id();
+    SDL_PushEvent(&e);
+}
+
+Color Headless::read_pixel(int x, int y) {
+    const SDL_Rect r{x, y, 1, 1};
+    SDL_Surface* s = SDL_RenderReadPixels(g_main_window->renderer(), &r);
+    Color c(0, 0, 0, 0);
+    if (s) {
+        SDL_ReadSurfacePixel(s, 0, 0, &c.red, &c.green, &c.blue, &c.alpha);
+        SDL_DestroySurface(s);
+    }
+    return c;
+}
+
+SDL_Surface* Headless::read_frame() { return SDL_RenderReadPixels(g_main_window->renderer(), nullptr); }

@@ -1,0 +1,50 @@
+#pragma once
+
+#include <SDL3/SDL.h>
+#include <gtest/gtest.h>
+
+#include <filesystem>
+#include <string>
+
+#include "color/color.h"
+
+// Runs the real start-up of the program on SDL's dummy video driver (a window
+// with a software renderer) in a fresh working directory holding a data/
+// folder with the real "pool.bmp", and shuts it down again afterwards.
+class Headless : public ::testing::Test {
+protected:
+    void SetUp() override;
+    void TearDown() override;
+
+    // The dummy driver queues window events at creation; tests start clean.
+    static void drop_pending_events();
+    static void push_key(SDL_Keycode key, SDL_Keymod mod = SDL_KMOD_NONE);
+    static void push_text_key(char c);
+    static void push_button(int x, int y, bool down, Uint8 button = SDL_BUTTON_LEFT);
+    static void push_click(int x, int y, Uint8 button = SDL_BUTTON_LEFT);
+    static void push_motion(int x, int y, Uint32 buttons = 0);
+    static void push_quit();
+    static void push_close_request();
+
+    // The frame as it stands on the renderer's target.
+    static Color read_pixel(int x, int y);
+    static SDL_Surface* read_frame();
+
+    std::filesystem::path work_dir;
+
+private:
+    std::filesystem::path previous_dir;
+};
+
+// A fresh temporary directory, removed with the object.
+struct Temp_Dir {
+    Temp_Dir();
+    ~Temp_Dir();
+    std::filesystem::path path;
+};
+
+std::filesystem::path source_path(const std::string& relative);
+
+inline void PrintTo(const Color& c, std::ostream* os) {
+    *os << "(" << int(c.red) << ", " << int(c.green) << ", " << int(c.blue) << ", " << int(c.alpha) << ")";
+}
