@@ -1,0 +1,52 @@
+#pragma once
+
+#include <unistd.h>
+
+#include <cstdio>
+#include <filesystem>
+#include <fstream>
+#include <iterator>
+#include <string>
+#include <vector>
+
+// A fresh directory for one test's files, removed with everything in it.
+class Scratch_Dir {
+public:
+    Scratch_Dir() {
+        static int serial = 0;
+        dir = std::filesystem::temp_directory_path() /
+              ("mosswick_test_" + std::to_string(getpid()) + "_" + std::to_string(serial++));
+        std::filesystem::create_directories(dir);
+    }
+    ~Scratch_Dir() {
+        std::error_code ignored;
+        std::filesystem::permissions(dir, std::filesystem::perms::owner_all,
+                                     std::filesystem::perm_options::add, ignored);
+        std::filesystem::remove_all(dir, ignored);
+    }
+    Scratch_Dir(const Scratch_Dir&) = delete;
+    Scratch_Dir& operator=(const Scratch_Dir&) = delete;
+
+    std::string file(const std::string& name) const { return (dir / name).string(); }
+    const std::filesystem::path& path() const { return dir; }
+
+private:
+    std::filesystem::path dir;
+};
+
+inline void write_bytes(const std::string& path, const std::vector<unsigned char>& bytes) {
+    std::ofstream out(path, std::ios::binary | std::ios::trunc);
+    out.write(reinterpret_cast<const char*>(bytes.data()), std::streamsize(bytes.size()));
+}
+
+inline std::vector<unsigned char> read_bytes(const std::string& path) {
+    std::ifstream in(path, std::ios::binary);
+    return std::vector<unsigned char>(std::istreambuf_iterator<char>(in), {});
+}
+
+// Fatal errors print to standard output; death tests match standard error.
+// Call first inside the statement of EXPECT_EXIT.
+inline void send_stdout_to_stderr() {
+    std::fflush(stdout);
+    dup2(STDERR_FILENO, STDOUT_FILENO);
+}
