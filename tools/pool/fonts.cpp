@@ -28,6 +28,8 @@ struct Font_Layout {
     int top;          // blank lines above the glyph cell, to centre it in the line
     Rgb ink;
     Glyph_Set glyphs;
+    bool shadowed = false;  // light text gets a dark shadow one pixel down and right
+    Rgb shadow{};
 };
 
 constexpr int glyph_count = 95;  // printable ASCII, codes 32 to 126
@@ -46,12 +48,21 @@ void paint_font(Canvas& canvas, const Font_Layout& font)
                 canvas.set(x, marker_y, in_glyph ? marker_yellow : marker_green);
                 in_glyph = !in_glyph;
             }
-            for (int r = 0; r < font.glyphs.height; ++r) {
-                const char* bits = font.glyphs.rows[k * font.glyphs.height + r];
-                for (int c = 0; c < font.glyphs.width; ++c)
-                    if (bits[c] == '#')
-                        canvas.set(x + c, marker_y + 1 + font.top + r, font.ink);
-            }
+            const int cell_y = marker_y + 1 + font.top;
+            auto ink_at = [&](int c, int r) {
+                if (c < 0 || r < 0 || c >= font.glyphs.width || r >= font.glyphs.height)
+                    return false;
+                return font.glyphs.rows[k * font.glyphs.height + r][c] == '#';
+            };
+            // The shadow stays inside the glyph's own cell, so it never
+            // touches the neighbouring glyph.
+            for (int r = 0; r <= font.glyphs.height; ++r)
+                for (int c = 0; c < font.glyphs.width; ++c) {
+                    if (ink_at(c, r))
+                        canvas.set(x + c, cell_y + r, font.ink);
+                    else if (font.shadowed && ink_at(c - 1, r - 1))
+                        canvas.set(x + c, cell_y + r, font.shadow);
+                }
             x += font.glyphs.width;
         }
         canvas.set(x, marker_y, marker_blue);
@@ -78,10 +89,12 @@ void paint_fonts(Canvas& canvas)
     const Glyph_Set large{fixed_9x18_width, fixed_9x18_height, &fixed_9x18_glyphs[0][0]};
     const Rgb dark_ink{16, 16, 16};
     const Rgb light_ink{255, 255, 255};
-    // Pane text: dark on pane bodies; pane header text: white on the green header.
+    // Pane text: dark on pane bodies; pane header text: white on the green
+    // header, with a dark green shadow.
     paint_font(canvas, {226, 20, 2, 3, dark_ink, small});
-    paint_font(canvas, {268, 20, 2, 3, light_ink, small});
-    // Dialog and menu text: dark; the highlighted menu item: white.
+    paint_font(canvas, {268, 20, 2, 3, light_ink, small, true, {30, 72, 36}});
+    // Dialog and menu text: dark; the highlighted menu item: white with a
+    // navy shadow, readable on the highlight and on a light background alike.
     paint_font(canvas, {310, 23, 3, 1, dark_ink, large});
-    paint_font(canvas, {382, 23, 3, 1, light_ink, large});
+    paint_font(canvas, {382, 23, 3, 1, light_ink, large, true, {0, 32, 96}});
 }

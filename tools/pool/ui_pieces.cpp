@@ -197,16 +197,16 @@ void paint_pointers(Canvas& canvas)
 
 void radio(Area& a, bool checked)
 {
-    a.disc(7.5, 7.5, 7.2, {96, 96, 96});
-    a.ring(7.5, 7.5, 5.6, 7.2, {96, 96, 96});
-    // The lower right of the rim catches the light.
+    // A white well with a dark rim, lit from the lower right.
+    a.disc(7.5, 7.5, 7.3, {64, 64, 64});
     for (int y = 0; y < 15; ++y)
         for (int x = 0; x < 15; ++x) {
             const double d = std::hypot(x + 0.5 - 7.5, y + 0.5 - 7.5);
-            if (d > 5.6 && d <= 7.2 && x + y > 15)
+            if (d > 6.4 && d <= 7.3 && x + y > 15)
                 a.set(x, y, {236, 236, 236});
         }
-    a.disc(7.5, 7.5, 5.6, white);
+    a.disc(7.5, 7.5, 5.9, {150, 150, 150});
+    a.disc(8.0, 8.0, 5.2, white);
     if (checked)
         a.disc(7.5, 7.5, 3.2, ink);
 }
