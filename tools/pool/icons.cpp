@@ -42,12 +42,12 @@ void pen(Area& a)
         }
         if (across > 3)
             return false;
-        if (p <= 8)
+        if (p <= 8)  // the painted body, lit from the upper left
             c = q <= -2 ? Rgb{255, 234, 120} : q >= 2 ? Rgb{214, 150, 24} : yellow;
-        else if (p <= 10)
+        else if (p <= 10)  // metal band
             c = across == 1 ? Rgb{220, 220, 228} : steel;
-        else
-            c = p == 15 && across == 3 ? Rgb{} : Rgb{240, 140, 150};
+        else  // eraser, its corners rounded off
+            c = {240, 140, 150};
         return !(p == 15 && across == 3);
     });
 }
