@@ -1,0 +1,57 @@
+#pragma once
+
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "color/color.h"
+
+class Data_File;
+
+// One named set of colours; a new page's colours are opaque black.
+struct Palette_Page {
+    Palette_Page(std::string page_name, int32_t colour_count)
+        : name(std::move(page_name)), count(colour_count), colors(static_cast<size_t>(colour_count)) {}
+
+    std::string name;
+    int32_t count;
+    std::vector<Color> colors;
+};
+
+// The palette: named pages of colours kept in "palette.dat" of the data
+// directory. Built-in pages are used when the file cannot be opened; the file
+// is written back at destruction only when a colour was changed.
+class Palette {
+public:
+    static constexpr const char* default_file = "palette.dat";
+    static constexpr const char* empty_name_replacement = "Rolololo";
+
+    explicit Palette(std::string path = default_file);
+    ~Palette();
+    Palette(const Palette&) = delete;
+    Palette& operator=(const Palette&) = delete;
+
+    // Page and colour numbers are not range-tested: callers keep them in range.
+    Color color(int page, int index) const { return pages[page]->colors[index]; }
+    int count(int page) const { return pages[page]->count; }
+    const std::string& name(int page) const { return pages[page]->name; }
+    void set_color(int page, int index, Color c);
+    int page_count() const { return static_cast<int>(pages.size()); }
+    bool dirty() const { return changed; }
+
+    // Writes every page to the file; false when it cannot be opened. An empty
+    // page name is replaced by "Rolololo", in the page too.
+    bool write();
+
+private:
+    void add_built_in_pages();
+    void read(Data_File& file);
+
+    std::string file_path;
+    bool changed = false;
+    std::vector<std::unique_ptr<Palette_Page>> pages;
+};
+
+// The program's palette, made at start-up and destroyed at shut-down, both
+// inside the data directory.
+extern Palette* palette_object;

@@ -1,0 +1,63 @@
+#pragma once
+
+#include <cstdint>
+#include <memory>
+
+#include "color/color.h"
+#include "document/tile_texture.h"
+
+// One small raster image, row-major, with its own texture. The texture is
+// brought up to date only by update_texture(), so that a batch of pixel
+// writes costs one upload.
+class Tile {
+public:
+    // All pixels opaque black; a negative size counts as 0.
+    Tile(int width, int height);
+    virtual ~Tile();
+    Tile(const Tile&) = delete;
+    Tile& operator=(const Tile&) = delete;
+
+    int width() const { return tile_width; }
+    int height() const { return tile_height; }
+    int pixel_count() const { return count; }
+
+    bool is_outside(int x, int y) const {
+        return x < 0 || y < 0 || x >= tile_width || y >= tile_height;
+    }
+    // Outside the tile: transparent black.
+    Color get_pixel(int x, int y) const {
+        return is_outside(x, y) ? Color(0, 0, 0, 0) : pixel_data[y * tile_width + x];
+    }
+    // Outside the tile: false and nothing changes.
+    bool set_pixel(int x, int y, Color c) {
+        if (is_outside(x, y)) return false;
+        pixel_data[y * tile_width + x] = c;
+        return true;
+    }
+    bool is_white(int x, int y) const;
+    bool is_empty(int x, int y) const;
+    uint8_t alpha(int x, int y) const { return get_pixel(x, y).alpha; }
+    bool same_size(const Tile& other) const {
+        return tile_width == other.tile_width && tile_height == other.tile_height;
+    }
+    void fill(Color c);
+
+    // Same size: plain copy and the destination's texture is updated.
+    // Otherwise the pixels are resampled and the texture is left to the caller.
+    void copy_into(Tile& destination) const;
+    void update_texture();
+    void draw(int x, int y);
+
+    Color* pixels() { return pixel_data.get(); }
+    const Color* pixels() const { return pixel_data.get(); }
+    Tile_Texture* texture() { return texture_object.get(); }
+
+private:
+    void resample_into(Tile& destination) const;
+
+    int32_t tile_width;
+    int32_t tile_height;
+    int32_t count;
+    std::unique_ptr<Color[]> pixel_data;
+    std::unique_ptr<Tile_Texture> texture_object;
+};

@@ -1,0 +1,66 @@
+#pragma once
+
+#include <cstdint>
+#include <list>
+#include <memory>
+
+#include "document/tile.h"
+
+// The ordered tiles of one tileset with a current position. All tiles have the
+// store's size. Positions stay valid while other tiles are added or removed.
+class Tile_Store {
+public:
+    Tile_Store(uint32_t width, uint32_t height, int32_t maximum);
+    Tile_Store(const Tile_Store&) = delete;
+    Tile_Store& operator=(const Tile_Store&) = delete;
+
+    uint32_t tile_width() const { return width; }
+    uint32_t tile_height() const { return height; }
+    int32_t maximum_count() const { return maximum; }
+    int tile_count() const { return static_cast<int>(tiles.size()); }
+    int current_index() const { return index; }
+    bool is_full() const { return tile_count() >= maximum; }
+    bool is_last() const { return index == tile_count() - 1; }
+
+    // The refusing operations return false when the store is full.
+    bool add_tile();
+    bool insert_tile();
+    bool insert_copy(const Tile& source);
+    bool next();
+    bool previous();
+    void go_to(int target);
+    // With fewer than two tiles the only tile is cleared instead and the
+    // result is false.
+    bool delete_tile();
+
+    // Appends a tile of the store's size without the maximum check, as loading
+    // a file does; the current position does not move.
+    void append(std::unique_ptr<Tile> tile);
+
+    // The index must be valid.
+    Tile* tile_at(int target);
+    const Tile* tile_at(int target) const;
+    // None when the store is empty.
+    Tile* current_tile() { return current == tiles.end() ? nullptr : current->get(); }
+    Color pixel_of_current(int x, int y) const;
+
+    uint32_t tile_bytes() const { return width * height * 4; }
+    uint64_t total_bytes() const { return uint64_t(tiles.size()) * tile_bytes(); }
+
+    // Every tile is resampled to the new size in place; the first becomes current.
+    void resize(uint32_t new_width, uint32_t new_height);
+    void clear();
+
+    using Tiles = std::list<std::unique_ptr<Tile>>;
+    const Tiles& all() const { return tiles; }
+
+private:
+    std::unique_ptr<Tile> blank_tile() const;
+
+    uint32_t width;
+    uint32_t height;
+    Tiles::iterator current;
+    int32_t maximum;
+    int32_t index = 0;
+    Tiles tiles;
+};

@@ -1,0 +1,78 @@
+#include "document/tileset.h"
+
+#include <cstdio>
+#include <vector>
+
+#include "document/tileset_file.h"
+
+void File_Path::set(const std::string& path) {
+    full = path;
+    const size_t separator = path.find_last_of("/\\");
+    const size_t start = separator == std::string::npos ? 0 : separator + 1;
+    const size_t dot = path.find('.', start);
+    if (dot == std::string::npos) {
+        name = path.substr(start);
+        extension.clear();
+    } else {
+        name = path.substr(start, dot - start);
+        extension = path.substr(dot + 1);
+    }
+}
+
+Tileset::Tileset(const std::string& path, uint32_t tile_width, uint32_t tile_height)
+    : tile_store(std::make_unique<Tile_Store>(tile_width, tile_height, maximum_tiles)) {
+    file_path.set(path);
+}
+
+Tileset::Tileset(const std::string& path, std::unique_ptr<Tile_Store> tiles)
+    : tile_store(std::move(tiles)) {
+    file_path.set(path);
+}
+
+Tileset::~Tileset() = default;
+
+void Tileset::set_modified() {
+    if (modified) return;
+    modified = true;
+    notify_name_changed();
+}
+
+void Tileset::clear_modified() {
+    modified = false;
+    notify_name_changed();
+}
+
+void Tileset::set_path(const std::string& path) {
+    file_path.set(path);
+    named = true;
+    notify_name_changed();
+}
+
+std::string Tileset::display_name() const { return modified ? file_path.name + "*" : file_path.name; }
+
+void Tileset::resize_tiles(uint32_t width, uint32_t height) {
+    tile_store->resize(width, height);
+}
+
+std::string Tileset::statistics_text() const {
+    static const char format[] =
+        "Tile memory\r Tiles: %d x %d = %lu bytes\r Size: %d x %d pixels\r File size: %lu "
+        "bytes\r\rFilename:\r%s";
+    const int count = tile_store->tile_count();
+    const unsigned long tile_bytes = tile_store->tile_bytes();
+    const unsigned long total = static_cast<unsigned long>(tile_store->total_bytes());
+    const unsigned long file_size = total + Tileset_File::header_size;
+    const int width = static_cast<int>(tile_store->tile_width());
+    const int height = static_cast<int>(tile_store->tile_height());
+    const char* name = file_path.full.c_str();
+    const int length = std::snprintf(nullptr, 0, format, count, static_cast<int>(tile_bytes), total,
+                                     width, height, file_size, name);
+    std::vector<char> text(static_cast<size_t>(length) + 1);
+    std::snprintf(text.data(), text.size(), format, count, static_cast<int>(tile_bytes), total, width,
+                  height, file_size, name);
+    return std::string(text.data(), static_cast<size_t>(length));
+}
+
+void Tileset::notify_name_changed() {
+    if (name_changed) name_changed();
+}

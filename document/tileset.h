@@ -1,0 +1,71 @@
+#pragma once
+
+#include <cstdint>
+#include <functional>
+#include <memory>
+#include <string>
+
+#include "document/tile_store.h"
+
+// The path of a document split once into its parts: the file name is what
+// follows the last separator up to the first "." after it, the extension is
+// everything after that ".".
+struct File_Path {
+    std::string full;
+    std::string name;
+    std::string extension;
+
+    void set(const std::string& path);
+};
+
+// One open document: its path, flags and tiles.
+class Tileset {
+public:
+    static constexpr int32_t maximum_tiles = 256;
+
+    // Width and height must not be 0; the creators of tilesets refuse such
+    // sizes. The store starts empty: tiles are added by the caller.
+    Tileset(const std::string& path, uint32_t tile_width, uint32_t tile_height);
+    // Takes over tiles that were already read, with the store's tile size.
+    Tileset(const std::string& path, std::unique_ptr<Tile_Store> tiles);
+    ~Tileset();
+    Tileset(const Tileset&) = delete;
+    Tileset& operator=(const Tileset&) = delete;
+
+    Tile_Store& store() { return *tile_store; }
+    const Tile_Store& store() const { return *tile_store; }
+    const File_Path& path() const { return file_path; }
+    bool is_modified() const { return modified; }
+    bool is_named() const { return named; }
+
+    // Setting an already set flag does nothing; otherwise the window title is
+    // refreshed. Clearing always refreshes it.
+    void set_modified();
+    void clear_modified();
+    // A path chosen in the save dialog: the tileset is named from now on.
+    void set_path(const std::string& path);
+    // The file name, with "*" while modified.
+    std::string display_name() const;
+
+    void resize_tiles(uint32_t width, uint32_t height);
+    std::string statistics_text() const;
+
+    // Called whenever the display name changes; the open-tileset list connects
+    // it to the window title.
+    std::function<void()> name_changed;
+
+private:
+    void notify_name_changed();
+
+    File_Path file_path;
+    bool modified = false;
+    bool named = false;
+    std::unique_ptr<Tile_Store> tile_store;
+    // Joining as their own parts are built, each owned here:
+    //   the undo history (emptied by resize_tiles),
+    //   the "Tileset navigation" pane holding the tile strip at
+    //     (4, window height - 28), 51 cells of 24 pixels,
+    //   the map editor of (480 / tile width) x (480 / tile height) cells,
+    //     recreated whenever the tile size changes,
+    //   the title text object showing display_name().
+};

@@ -1,0 +1,30 @@
+#pragma once
+
+#include <cstdint>
+#include <memory>
+#include <string>
+
+#include "document/tile_store.h"
+
+// The ".wst" tileset file: an 11-byte header ("WST", 0x0A, 0x00, tile width
+// and height as one byte each, tile count as a little-endian u32) followed by
+// every tile's pixels, row by row, each pixel as alpha, blue, green, red.
+class Tileset_File {
+public:
+    static constexpr uint32_t header_size = 11;
+    static constexpr const char* load_error_text =
+        "Error occurred in tileset loading. This file may not be in Mosswick format.";
+    static constexpr const char* save_error_text =
+        "Unable to create a save file in the destination device.\rCheck out write access "
+        "properties.";
+
+    // Returns the bytes written, or -1 when the file could not be written; a
+    // failed write leaves any previous file at the path as it was.
+    static int32_t write(const Tile_Store& store, const std::string& path);
+
+    // The tiles of the file, or none when it cannot be opened, does not start
+    // with "WST", or has a zero tile width, height or count; the caller shows
+    // load_error_text then. A header or tile record shorter than expected ends
+    // the program with the block error naming the path.
+    static std::unique_ptr<Tile_Store> read(const std::string& path);
+};

@@ -1,0 +1,220 @@
+#include "color/palette.h"
+
+#include <gtest/gtest.h>
+
+#include <filesystem>
+#include <string>
+#include <vector>
+
+#include "support/scratch_dir.h"
+
+namespace {
+
+// A palette file holding the given text behind its length.
+void write_palette_file(const std::string& path, const std::string& text) {
+    std::vector<unsigned char> bytes(4);
+    const uint32_t length = static_cast<uint32_t>(text.size());
+    for (int i = 0; i < 4; ++i) bytes[i] = static_cast<unsigned char>(length >> (8 * i));
+    bytes.insert(bytes.end(), text.begin(), text.end());
+    write_bytes(path, bytes);
+}
+
+std::string stored_text(const std::string& path) {
+    const auto bytes = read_bytes(path);
+    if (bytes.size() < 4) return {};
+    return std::string(bytes.begin() + 4, bytes.end());
+}
+
+TEST(PaletteBuiltIn, MissingFileGivesThreePagesOf32) {
+    Scratch_Dir dir;
+    Palette palette(dir.file("palette.dat"));
+    ASSERT_EQ(palette.page_count(), 3);
+    EXPECT_EQ(palette.name(0), "Default");
+    EXPECT_EQ(palette.name(1), "EGA");
+    EXPECT_EQ(palette.name(2), "MSX");
+    for (int page = 0; page < 3; ++page) {
+        EXPECT_EQ(palette.count(page), 32);
+        for (int i = 0; i < 32; ++i) EXPECT_EQ(palette.color(page, i).alpha, 255);
+    }
+    EXPECT_FALSE(palette.dirty());
+}
+
+TEST(PaletteBuiltIn, TablesAsListed) {
+    Scratch_Dir dir;
+    Palette palette(dir.file("palette.dat"));
+    EXPECT_EQ(palette.color(0, 0), Color(255, 255, 255));
+    EXPECT_EQ(palette.color(0, 2), Color(97, 18, 124));
+    EXPECT_EQ(palette.color(0, 31), Color(174, 0, 153));
+    EXPECT_EQ(palette.color(1, 1), Color(0, 0, 170));
+    EXPECT_EQ(palette.color(1, 6), Color(170, 85, 0));
+    EXPECT_EQ(palette.color(1, 15), Color(255, 255, 255));
+    EXPECT_EQ(palette.color(2, 1), Color(1, 1, 1));
+    EXPECT_EQ(palette.color(2, 2), Color(62, 184, 73));
+    EXPECT_EQ(palette.color(2, 15), Color(255, 255, 255));
+    for (int i = 16; i < 32; ++i) {
+        EXPECT_EQ(palette.color(1, i), Color(0, 0, 0));
+        EXPECT_EQ(palette.color(2, i), Color(0, 0, 0));
+    }
+}
+
+TEST(PaletteWriting, UnchangedPaletteWritesNoFile) {
+    Scratch_Dir dir;
+    const std::string path = dir.file("palette.dat");
+    { Palette palette(path); }
+    EXPECT_FALSE(std::filesystem::exists(path));
+}
+
+TEST(PaletteWriting, ChangedPaletteWritesEveryPageAsTokens) {
+    Scratch_Dir dir;
+    const std::string path = dir.file("palette.dat");
+    std::string expected;
+    {
+        Palette palette(path);
+        palette.set_color(1, 3, Color(1, 2, 3, 4));
+        EXPECT_TRUE(palette.dirty());
+        expected = "3";
+        for (int page = 0; page < 3; ++page) {
+            expected += "," + std::to_string(palette.count(page));
+            for (int i = 0; i < palette.count(page); ++i) {
+                const Color c = palette.color(page, i);
+                for (int channel : {c.red, c.green, c.blue, c.alpha})
+                    expected += "," + std::to_string(channel);
+            }
+            expected += palette.name(page) + ",";
+        }
+        expected += ":";
+    }
+    const std::string text = stored_text(path);
+    EXPECT_EQ(text, expected);
+    EXPECT_EQ(text.rfind("3,32,255,255,255,255,0,0,0,255,", 0), 0u);
+    EXPECT_NE(text.find(",174,0,153,255Default,,32,"), std::string::npos);
+    EXPECT_NE(text.find(",1,2,3,4,"), std::string::npos);
+    EXPECT_EQ(read_bytes(path).size(), 4 + text.size());
+}
+
+TEST(PaletteReading, ColourTokensAreNotReadBack) {
+    Scratch_Dir dir;
+    const std::string path = dir.file("palette.dat");
+    {
+        Palette palette(path);
+        palette.set_color(2, 0, Color(9, 9, 9));
+    }
+    Palette reread(path);
+    // The written tokens run 3, 32, 255, 255, 255, 255, 0, 0, 0, 255, ...:
+    // the page count, then per page a colour count and the next token as name.
+    ASSERT_EQ(reread.page_count(), 3);
+    EXPECT_EQ(reread.count(0), 32);
+    EXPECT_EQ(reread.name(0), "255");
+    EXPECT_EQ(reread.count(1), 255);
+    EXPECT_EQ(reread.name(1), "255");
+    EXPECT_EQ(reread.count(2), 255);
+    EXPECT_EQ(reread.name(2), "0");
+    for (int i = 0; i < 32; ++i) EXPECT_EQ(reread.color(0, i), Color(0, 0, 0));
+    EXPECT_FALSE(reread.dirty());
+}
+
+TEST(PaletteWriting, EmptyNameBecomesRolololo) {
+    Scratch_Dir dir;
+    const std::string path = dir.file("palette.dat");
+    write_palette_file(path, "1,2,:");
+    {
+        Palette palette(path);
+        ASSERT_EQ(palette.page_count(), 1);
+        EXPECT_EQ(palette.name(0), "");
+        palette.set_color(0, 1, Color(5, 6, 7));
+        ASSERT_TRUE(palette.write());
+        EXPECT_EQ(palette.name(0), "Rolololo");
+    }
+    EXPECT_EQ(stored_text(path), "1,2,0,0,0,255,5,6,7,255Rolololo,:");
+}
+
+TEST(PaletteWriting, UnopenableFileIsSilentlySkipped) {
+    Scratch_Dir dir;
+    const std::string path = dir.file("missing_dir/palette.dat");
+    {
+        Palette palette(path);
+        palette.set_color(0, 0, Color(1, 1, 1));
+        EXPECT_FALSE(palette.write());
+    }
+    EXPECT_FALSE(std::filesystem::exists(path));
+}
+
+TEST(PaletteReading, EmptyTextGivesNoPages) {
+    Scratch_Dir dir;
+    const std::string path = dir.file("palette.dat");
+    write_palette_file(path, "");
+    Palette palette(path);
+    EXPECT_EQ(palette.page_count(), 0);
+}
+
+TEST(PaletteReading, NegativePageCountGivesNoPages) {
+    Scratch_Dir dir;
+    const std::string path = dir.file("palette.dat");
+    write_palette_file(path, "-4,1,a:");
+    Palette palette(path);
+    EXPECT_EQ(palette.page_count(), 0);
+}
+
+TEST(PaletteReading, MissingColonAndTextEndingInsideATokenStopAtTheEnd) {
+    Scratch_Dir dir;
+    const std::string path = dir.file("palette.dat");
+    write_palette_file(path, "2,3,Warm");
+    Palette palette(path);
+    ASSERT_EQ(palette.page_count(), 2);
+    EXPECT_EQ(palette.count(0), 3);
+    EXPECT_EQ(palette.name(0), "Warm");
+    EXPECT_EQ(palette.count(1), 0);
+    EXPECT_EQ(palette.name(1), "");
+}
+
+class PaletteDeathTest : public ::testing::Test {
+protected:
+    void expect_fatal(const std::string& text, const std::string& message) {
+        const std::string path = dir.file("palette.dat");
+        write_palette_file(path, text);
+        EXPECT_EXIT(
+            {
+                send_stdout_to_stderr();
+                Palette palette(path);
+            },
+            ::testing::ExitedWithCode(1), "Error: " + message + " .*palette\\.dat!");
+    }
+    Scratch_Dir dir;
+};
+
+TEST_F(PaletteDeathTest, NegativeColourCountEndsTheProgram) {
+    expect_fatal("1,-3,name:", "Negative colour count in");
+}
+
+TEST_F(PaletteDeathTest, ColourCountBeyondTheTextEndsTheProgram) {
+    expect_fatal("1,2000000000,name:", "Colour count larger than the file in");
+    expect_fatal("2,8,a,9,b:", "Colour count larger than the file in");
+}
+
+TEST_F(PaletteDeathTest, PageCountBeyondTheTextEndsTheProgram) {
+    expect_fatal("2147483647:", "Page count larger than the file in");
+}
+
+TEST_F(PaletteDeathTest, LengthBeyondTheFileEndsWithTheBlockError) {
+    const std::string path = dir.file("palette.dat");
+    write_bytes(path, {0x00, 0x00, 0x00, 0x40, '3', ':'});
+    EXPECT_EXIT(
+        {
+            send_stdout_to_stderr();
+            Palette palette(path);
+        },
+        ::testing::ExitedWithCode(1), "Error: Unable to load block from  .*palette\\.dat!");
+}
+
+TEST_F(PaletteDeathTest, FileShorterThanItsLengthEndsWithTheBlockError) {
+    const std::string path = dir.file("palette.dat");
+    write_bytes(path, {0x01});
+    EXPECT_EXIT(
+        {
+            send_stdout_to_stderr();
+            Palette palette(path);
+        },
+        ::testing::ExitedWithCode(1), "Unable to load block from  .*palette\\.dat!");
+}
+
+}  // namespace
