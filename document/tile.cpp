@@ -2,13 +2,23 @@
 
 #include <algorithm>
 #include <cmath>
+#include <memory>
+#include <new>
 
-Tile::Tile(int width, int height)
+Tile::Tile(int width, int height) : Tile(width, height, Storage_Only{}) {
+    std::uninitialized_fill_n(pixel_data.get(), count, Color());
+    make_texture();
+}
+
+Tile::Tile(int width, int height, Storage_Only)
     : tile_width(std::max(width, 0)),
       tile_height(std::max(height, 0)),
       count(tile_width * tile_height),
-      pixel_data(new Color[static_cast<size_t>(count)]),
-      texture_object(make_tile_texture(tile_width, tile_height, pixel_data.get())) {}
+      pixel_data(static_cast<Color*>(::operator new[](sizeof(Color) * static_cast<size_t>(count)))) {}
+
+void Tile::make_texture() {
+    texture_object = make_tile_texture(tile_width, tile_height, pixel_data.get());
+}
 
 Tile::~Tile() = default;
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <concepts>
 #include <cstdint>
 #include <memory>
 
@@ -13,6 +14,15 @@ class Tile {
 public:
     // All pixels opaque black; a negative size counts as 0.
     Tile(int width, int height);
+    // The pixels are written by write_pixels(Color*) before anything else
+    // sees them, and the texture is made from them: loading fills a tile in
+    // one pass instead of clearing it first.
+    template <typename Writer>
+        requires std::invocable<Writer, Color*>
+    Tile(int width, int height, Writer&& write_pixels) : Tile(width, height, Storage_Only{}) {
+        write_pixels(pixel_data.get());
+        make_texture();
+    }
     virtual ~Tile();
     Tile(const Tile&) = delete;
     Tile& operator=(const Tile&) = delete;
@@ -53,11 +63,18 @@ public:
     Tile_Texture* texture() { return texture_object.get(); }
 
 private:
+    struct Storage_Only {};
+    Tile(int width, int height, Storage_Only);
+    void make_texture();
     void resample_into(Tile& destination) const;
+
+    struct Release_Pixels {
+        void operator()(Color* pixels) const { ::operator delete[](pixels); }
+    };
 
     int32_t tile_width;
     int32_t tile_height;
     int32_t count;
-    std::unique_ptr<Color[]> pixel_data;
+    std::unique_ptr<Color[], Release_Pixels> pixel_data;
     std::unique_ptr<Tile_Texture> texture_object;
 };

@@ -1,7 +1,6 @@
 #include "document/tileset.h"
 
 #include <cstdio>
-#include <vector>
 
 #include "document/tileset_file.h"
 
@@ -55,22 +54,17 @@ void Tileset::resize_tiles(uint32_t width, uint32_t height) {
 }
 
 std::string Tileset::statistics_text() const {
-    static const char format[] =
+    // The full path comes last, so it is appended rather than formatted.
+    static const char numbers[] =
         "Tile memory\r Tiles: %d x %d = %lu bytes\r Size: %d x %d pixels\r File size: %lu "
-        "bytes\r\rFilename:\r%s";
-    const int count = tile_store->tile_count();
-    const unsigned long tile_bytes = tile_store->tile_bytes();
+        "bytes\r\rFilename:\r";
     const unsigned long total = static_cast<unsigned long>(tile_store->total_bytes());
-    const unsigned long file_size = total + Tileset_File::header_size;
-    const int width = static_cast<int>(tile_store->tile_width());
-    const int height = static_cast<int>(tile_store->tile_height());
-    const char* name = file_path.full.c_str();
-    const int length = std::snprintf(nullptr, 0, format, count, static_cast<int>(tile_bytes), total,
-                                     width, height, file_size, name);
-    std::vector<char> text(static_cast<size_t>(length) + 1);
-    std::snprintf(text.data(), text.size(), format, count, static_cast<int>(tile_bytes), total, width,
-                  height, file_size, name);
-    return std::string(text.data(), static_cast<size_t>(length));
+    char text[256];
+    std::snprintf(text, sizeof text, numbers, tile_store->tile_count(),
+                  static_cast<int>(tile_store->tile_bytes()), total,
+                  static_cast<int>(tile_store->tile_width()),
+                  static_cast<int>(tile_store->tile_height()), total + Tileset_File::header_size);
+    return text + file_path.full;
 }
 
 void Tileset::notify_name_changed() {

@@ -3,6 +3,7 @@
 #include <bit>
 #include <cerrno>
 #include <cstdio>
+#include <cstring>
 #include <filesystem>
 #include <system_error>
 #include <vector>
@@ -20,14 +21,45 @@ static_assert(std::endian::native == std::endian::little,
               "pixels are converted as little-endian words");
 
 // In memory a pixel word is 0xAARRGGBB; in the file its bytes are alpha, blue,
-// green, red, which read as a word is 0xRRGGBBAA: one rotation apart.
-void to_file_order(const Color* pixels, uint32_t* out, size_t count) {
-    for (size_t i = 0; i < count; ++i) out[i] = std::rotl(pixels[i].word(), 8);
+// green, red, which read as a word is 0xRRGGBBAA: one rotation apart. The
+// conversions run in fixed blocks so that the compiler turns them into vector
+// instructions; they decide how close saving and loading come to a plain copy.
+constexpr size_t block = 16;
+
+#if defined(__GNUC__) && defined(__x86_64__)
+__attribute__((target_clones("avx2", "default")))
+#endif
+void to_file_order(const Color* pixels, unsigned char* __restrict out, size_t count) {
+    const unsigned char* __restrict in = reinterpret_cast<const unsigned char*>(pixels);
+    size_t i = 0;
+    for (; i + block <= count; i += block)
+        for (size_t k = 0; k < block; ++k) {
+            uint32_t w;
+            std::memcpy(&w, in + 4 * (i + k), 4);
+            w = std::rotl(w, 8);
+            std::memcpy(out + 4 * (i + k), &w, 4);
+        }
+    for (; i < count; ++i) {
+        const uint32_t w = std::rotl(pixels[i].word(), 8);
+        std::memcpy(out + 4 * i, &w, 4);
+    }
 }
 
+// In place: the record was just read into the tile and is still in the cache.
+#if defined(__GNUC__) && defined(__x86_64__)
+__attribute__((target_clones("avx2", "default")))
+#endif
 void to_memory_order(Color* pixels, size_t count) {
-    static_assert(sizeof(Color) == sizeof(uint32_t));
-    for (size_t i = 0; i < count; ++i) pixels[i] = Color::from_word(std::rotr(pixels[i].word(), 8));
+    unsigned char* bytes = reinterpret_cast<unsigned char*>(pixels);
+    size_t i = 0;
+    for (; i + block <= count; i += block)
+        for (size_t k = 0; k < block; ++k) {
+            uint32_t w;
+            std::memcpy(&w, bytes + 4 * (i + k), 4);
+            w = std::rotr(w, 8);
+            std::memcpy(bytes + 4 * (i + k), &w, 4);
+        }
+    for (; i < count; ++i) pixels[i] = Color::from_word(std::rotr(pixels[i].word(), 8));
 }
 
 // The file that is really written: a symbolic link is followed so that saving
@@ -67,11 +99,11 @@ bool write_contents(std::FILE* file, const Tile_Store& store) {
         static_cast<unsigned char>(count), static_cast<unsigned char>(count >> 8),
         static_cast<unsigned char>(count >> 16), static_cast<unsigned char>(count >> 24)};
     if (std::fwrite(header, sizeof header, 1, file) != 1) return false;
-    std::vector<uint32_t> record;
+    std::vector<unsigned char> record;
     for (const auto& tile : store.all()) {
         const size_t pixels = static_cast<size_t>(tile->pixel_count());
         if (pixels == 0) continue;
-        record.resize(pixels);
+        record.resize(pixels * 4);
         to_file_order(tile->pixels(), record.data(), pixels);
         if (std::fwrite(record.data(), pixels * 4, 1, file) != 1) return false;
     }
@@ -103,6 +135,9 @@ int32_t Tileset_File::write(const Tile_Store& store, const std::string& path) {
 std::unique_ptr<Tile_Store> Tileset_File::read(const std::string& path) {
     Data_File file(path);
     if (!file.open_read()) return nullptr;
+    // Records are read whole straight into the tiles; a stream buffer would
+    // only add a copy.
+    std::setvbuf(file.stream(), nullptr, _IONBF, 0);
     unsigned char header[header_size];
     file.read_block(header, sizeof header);
     if (header[0] != 'W' || header[1] != 'S' || header[2] != 'T') return nullptr;
@@ -113,15 +148,15 @@ std::unique_ptr<Tile_Store> Tileset_File::read(const std::string& path) {
     // The rest of the program needs at least one tile of non-zero size.
     if (width == 0 || height == 0 || count == 0) return nullptr;
     auto store = std::make_unique<Tile_Store>(width, height, Tileset::maximum_tiles);
-    // One tile at a time: a count far beyond the file's real length fails on
-    // the first missing record, not by reserving memory for all of them.
+    // One record at a time: a count far beyond the file's real length fails
+    // on the first missing record, not by reserving memory for all of them.
+    const size_t pixels = size_t(width) * height;
     for (uint32_t i = 0; i < count; ++i) {
-        auto tile = std::make_unique<Tile>(static_cast<int>(width), static_cast<int>(height));
-        const size_t pixels = static_cast<size_t>(tile->pixel_count());
-        file.read_block(tile->pixels(), pixels * 4);
-        to_memory_order(tile->pixels(), pixels);
-        tile->update_texture();
-        store->append(std::move(tile));
+        // The tile's texture is made from the loaded pixels, so it is current.
+        store->append(std::make_unique<Tile>(int(width), int(height), [&](Color* out) {
+            file.read_block(out, pixels * 4);
+            to_memory_order(out, pixels);
+        }));
     }
     return store;
 }
