@@ -8,7 +8,7 @@
 #include "app/fatal.h"
 #include "app/token_stream.h"
 
-Palette* palette_object = nullptr;
+Palette* g_palette = nullptr;
 
 namespace {
 

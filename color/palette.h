@@ -54,4 +54,4 @@ private:
 
 // The program's palette, made at start-up and destroyed at shut-down, both
 // inside the data directory.
-extern Palette* palette_object;
+extern Palette* g_palette;
