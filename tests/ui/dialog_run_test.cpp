@@ -1,0 +1,215 @@
+#include <gtest/gtest.h>
+
+#include <filesystem>
+#include <fstream>
+
+#include "app/debug_log.h"
+#include "app/globals.h"
+#include "support/headless.h"
+#include "tests/ui/event_script.h"
+#include "ui/dialog.h"
+#include "ui/dialog_item.h"
+#include "ui/message_box.h"
+#include "ui/number_dialog_item.h"
+#include "ui/radiobutton_dialog_item.h"
+#include "ui/textlist_dialog_item.h"
+#include "ui/ui_globals.h"
+
+namespace fs = std::filesystem;
+
+class DialogRun : public Headless {
+protected:
+    // A dialog with every kind of row; its data file is "test.dlg".
+    static std::unique_ptr<Dialog> make_dialog(bool with_file = true) {
+        auto d = with_file ? std::make_unique<Dialog>("Test", "test.dlg") : std::make_unique<Dialog>("Test");
+        d->add_text("Settings");
+        d->add_tick_row(40, false, "Tick");
+        d->add_number_row(90, 20, 0, 21, "Number:");
+        d->add_list_row(30, 0, "one,two,three$");
+        d->finish(true);
+        return d;
+    }
+    static void click_item(Dialog& d, uint32_t id) {
+        const Rectangle a = d.find(id)->area;
+        push_click(a.x + a.width / 2, a.y + a.height / 2);
+    }
+    static void click_bar(Dialog& d, size_t index) {
+        const Rectangle a = d.container().rows().back()->items()[index]->area;
+        push_click(a.x + 3, a.y + 3);
+    }
+    fs::path data_file() const { return work_dir / "data" / "test.dlg"; }
+    std::string file_bytes() const {
+        std::ifstream in(data_file(), std::ios::binary);
+        return std::string(std::istreambuf_iterator<char>(in), {});
+    }
+};
+
+TEST_F(DialogRun, YesAcceptsLikeReturnAndSavesEveryItem) {
+    for (SDL_Keycode key : {SDL_Keycode(13), SDL_Keycode('y')}) {
+        auto d = make_dialog();
+        Event_Script script;
+        script.then([&] { click_item(*d, 92); }).then([&] { push_key(key); });
+        EXPECT_TRUE(d->run());
+        EXPECT_FALSE(script.ran_out());
+        EXPECT_EQ(d->value_of(91), 21);
+        // Text rows save their id -1; the unticked tick saves kind 4.
+        const std::string text = "5,-1,4,-1,-1,2,21,0,21,3,3,0,0,2,0,1:";
+        const std::string bytes = file_bytes();
+        ASSERT_EQ(bytes.size(), 4 + text.size());
+        EXPECT_EQ(uint8_t(bytes[0]), text.size());
+        EXPECT_EQ(bytes.substr(1, 3), std::string(3, '\0'));
+        EXPECT_EQ(bytes.substr(4), text);
+        fs::remove(data_file());
+    }
+}
+
+TEST_F(DialogRun, EscapeNeitherSavesNorRevertsAndQuitEndsTheLoop) {
+    auto d = make_dialog();
+    {
+        Event_Script script;
+        script.then([&] { click_item(*d, 30); }).then([&] { push_key(27); });
+        EXPECT_FALSE(d->run());
+        EXPECT_FALSE(script.ran_out());
+    }
+    EXPECT_EQ(d->value_of(31), 1);
+    EXPECT_FALSE(fs::exists(data_file()));
+    {
+        Event_Script script;
+        script.then([&] { click_item(*d, 30); }).then([] { push_quit(); });
+        EXPECT_FALSE(d->run());
+    }
+    EXPECT_EQ(d->value_of(31), 2);
+    EXPECT_FALSE(fs::exists(data_file()));
+    Event_Script script;
+    script.then([] { push_close_request(); });
+    EXPECT_FALSE(d->run());
+    EXPECT_EQ(d->result().type, item_unknown);
+}
+
+TEST_F(DialogRun, CancelRestoresTheValuesOfTheOpening) {
+    auto d = make_dialog();
+    Event_Script script;
+    script.then([&] { click_item(*d, 90); })
+        .then([&] { click_item(*d, 40); })
+        .then([&] { click_item(*d, 30); })
+        .then([&] { click_bar(*d, 1); });
+    EXPECT_FALSE(d->run());
+    EXPECT_FALSE(script.ran_out());
+    EXPECT_EQ(d->result().type, item_cancel);
+    EXPECT_EQ(d->value_of(91), 20);
+    EXPECT_EQ(d->value_of(40), 0);
+    EXPECT_EQ(d->value_of(31), 0);
+    EXPECT_FALSE(fs::exists(data_file()));
+}
+
+TEST_F(DialogRun, StepsWrapAroundAndTicksToggle) {
+    auto d = make_dialog();
+    Event_Script script;
+    // 20 -> 21 -> 0 (past the maximum) -> 21 (below the minimum).
+    script.then([&] { click_item(*d, 92); })
+        .then([&] { click_item(*d, 92); })
+        .then([&] { click_item(*d, 90); })
+        .then([&] { click_item(*d, 30); })
+        .then([&] { click_item(*d, 30); })
+        .then([&] { click_item(*d, 30); })
+        .then([&] { click_item(*d, 40); })
+        .then([&] { click_bar(*d, 0); });
+    EXPECT_TRUE(d->run());
+    EXPECT_FALSE(script.ran_out());
+    EXPECT_EQ(d->value_of(91), 21);
+    // Three presses of "More" on a three-entry list come back to the first.
+    EXPECT_EQ(d->value_of(31), 0);
+    EXPECT_EQ(d->value_of(40), 1);
+}
+
+TEST_F(DialogRun, APressOutsideEveryRowDeliversNothing) {
+    auto d = make_dialog();
+    const Rectangle frame = d->pane().outer_area();
+    Event_Script script;
+    script.then([&] { push_click(frame.x + frame.width - 2, frame.y + 30); })
+        .then([] { push_click(5, 5); })
+        .then([] { push_key(27); });
+    EXPECT_FALSE(d->run());
+    EXPECT_EQ(d->result(), (Dialog_Event{item_unknown, -1}));
+    EXPECT_EQ(d->value_of(91), 20);
+    EXPECT_EQ(d->value_of(31), 0);
+    EXPECT_EQ(d->value_of(40), 0);
+}
+
+TEST_F(DialogRun, AcceptWithATargetThatIsNoItemStillEnds) {
+    Dialog d("Odd");
+    d.add_text("text");
+    auto row = std::make_unique<Dialog_Row>();
+    row->add(std::make_unique<Button_Dialog_Item>(7, 12345, button_ok));
+    d.add_row(std::move(row));
+    d.finish(false);
+    Event_Script script;
+    script.then([&] { click_item(d, 7); });
+    EXPECT_TRUE(d.run());
+    EXPECT_EQ(d.result(), (Dialog_Event{item_accept, 12345}));
+}
+
+TEST_F(DialogRun, RadioGroupsKeepExactlyOneChoice) {
+    auto group = std::make_shared<Radio_Group>();
+    Dialog d("Radio");
+    auto row = std::make_unique<Dialog_Row>();
+    for (uint32_t id = 1; id <= 3; ++id)
+        row->add(std::make_unique<Radiobutton_Dialog_Item>(id, Dialog_Item::no_id, id == 1, group));
+    d.add_row(std::move(row));
+    d.finish(false);
+    Event_Script script;
+    script.then([&] { click_item(d, 3); })
+        .then([&] { click_item(d, 3); })
+        .then([] { push_key(13); });
+    EXPECT_TRUE(d.run());
+    EXPECT_EQ(d.value_of(1), 0);
+    EXPECT_EQ(d.value_of(2), 0);
+    EXPECT_EQ(d.value_of(3), 1);
+}
+
+TEST_F(DialogRun, DataFilesAreReadWhenTheDialogOpens) {
+    {
+        std::ofstream out(data_file(), std::ios::binary);
+        const std::string text = "5,-1,5,-1,-1,2,3,0,21,3,3,2,0,2,0,1:";
+        const char length[4] = {char(text.size()), 0, 0, 0};
+        out.write(length, 4);
+        out << text;
+    }
+    auto d = make_dialog();
+    EXPECT_EQ(d->value_of(40), 1);
+    EXPECT_EQ(d->value_of(91), 3);
+    EXPECT_EQ(d->value_of(31), 2);
+    // A file of length 0 loads nothing.
+    {
+        std::ofstream out(data_file(), std::ios::binary);
+        out.write("\0\0\0\0", 4);
+    }
+    auto empty = make_dialog();
+    EXPECT_EQ(empty->value_of(91), 20);
+    EXPECT_EQ(empty->value_of(40), 0);
+}
+
+TEST_F(DialogRun, SaveFailuresAreReported) {
+    Message_Box* box = g_message_box;
+    g_message_box = nullptr;  // the warning then goes to the debug log
+    auto d = make_dialog();
+    fs::create_directory(data_file());
+    {
+        Event_Script script;
+        script.then([] { push_key(13); });
+        EXPECT_TRUE(d->run());
+    }
+    EXPECT_NE(g_debug_log->lines().back().find("(W!) Can't save dialog data."), std::string::npos);
+    fs::remove(data_file());
+
+    fs::rename(work_dir / "data", work_dir / "moved");
+    {
+        Event_Script script;
+        script.then([] { push_key(13); });
+        EXPECT_FALSE(d->run());
+    }
+    EXPECT_NE(g_debug_log->lines().back().find("(W!) Can't switch to 'data' directory."),
+              std::string::npos);
+    fs::rename(work_dir / "moved", work_dir / "data");
+    g_message_box = box;
+}

@@ -1,0 +1,92 @@
+#include "ui/message_box.h"
+
+#include <gtest/gtest.h>
+
+#include "app/globals.h"
+#include "app/main_window.h"
+#include "support/headless.h"
+#include "tests/ui/event_script.h"
+#include "ui/backdrop.h"
+#include "ui/dialog.h"
+#include "ui/ui_style.h"
+#include "ui/image_pool.h"
+#include "app/sprites.h"
+
+class MessageBoxTest : public Headless {
+protected:
+    Message_Box box;
+};
+
+TEST_F(MessageBoxTest, EveryWayOfClosingEndsAMessage) {
+    const std::function<void()> closers[] = {
+        [] { push_key(13); },
+        [] { push_key(27); },
+        [] { push_key('y'); },
+        [] { push_close_request(); },
+        [] { push_quit(); },
+        // "Ok" is centred at the bottom of the centred box.
+        [] { push_click(1232 / 2, 664 / 2 + 20); },
+    };
+    for (const auto& close : closers) {
+        Event_Script script;
+        script.then(close);
+        box.note("Short note, quite a bit wider than the button");
+        EXPECT_FALSE(script.ran_out());
+    }
+    Event_Script script;
+    script.then([] { push_key(13); }).then([] { push_key(13); });
+    box.warning("Careful");
+    box.show_statistics("Tiles: 3\rFile size: 11");
+    EXPECT_FALSE(script.ran_out());
+    EXPECT_EQ(script.left(), 0u);
+}
+
+TEST_F(MessageBoxTest, TheQuestionIsAnsweredByOkOrCancel) {
+    Event_Script yes;
+    yes.then([] { push_key('y'); });
+    EXPECT_TRUE(box.ask("Quit", "Quit Mosswick?"));
+    Event_Script escape;
+    escape.then([] { push_key(27); });
+    EXPECT_FALSE(box.ask("Quit", "Quit Mosswick?"));
+}
+
+TEST_F(MessageBoxTest, AboutNamesVersionWindowSizeAndRenderer) {
+    const std::string expected = std::string("    \rVersion 0.88\r\rFreeware\r1232 x 664 window size\rRenderer: ") +
+                                 g_main_window->renderer_name();
+    EXPECT_EQ(Message_Box::about_text(), expected);
+    SDL_SetWindowSize(g_main_window->window(), 900, 500);
+    SDL_SyncWindow(g_main_window->window());
+    int w = 0;
+    int h = 0;
+    SDL_GetWindowSize(g_main_window->window(), &w, &h);
+    EXPECT_NE(Message_Box::about_text().find(std::to_string(w) + " x " + std::to_string(h) + " window size"),
+              std::string::npos);
+    SDL_SetWindowSize(g_main_window->window(), 1232, 664);
+    SDL_SyncWindow(g_main_window->window());
+
+    Event_Script script;
+    script.then([] { push_key(13); });
+    box.show_about();
+    EXPECT_FALSE(script.ran_out());
+    // The logo stands in the first row of the box, above the text.
+    const SDL_FRect& logo = g_main_window->pool().sprite_rect(sprite_logo);
+    EXPECT_GT(logo.w, 0);
+}
+
+TEST_F(MessageBoxTest, BoxesDrawOverWhatLiesBehindThem) {
+    int behind = 0;
+    Backdrop::set_base([](void* n) { ++*static_cast<int*>(n); }, &behind);
+    Dialog dialog("Note");
+    dialog.add_text("Drawn over the editor");
+    dialog.finish(false);
+    push_key(13);
+    dialog.run();
+    Backdrop::set_base(nullptr, nullptr);
+    EXPECT_EQ(behind, 1);
+    EXPECT_EQ(Backdrop::depth(), 0);
+    // The last frame shows the box's header at the frame's corner.
+    const Rectangle frame = dialog.pane().outer_area();
+    EXPECT_EQ(read_pixel(frame.x + 8, frame.y + 12), header_color);
+    EXPECT_EQ(read_pixel(frame.x + 2, frame.y + frame.height - 2), pane_body_color);
+    EXPECT_EQ(read_pixel(frame.x - 1, frame.y + frame.height - 2), ui_colors[background_color_index]);
+}

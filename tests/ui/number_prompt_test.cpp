@@ -1,0 +1,100 @@
+#include "ui/number_prompt.h"
+
+#include <gtest/gtest.h>
+
+#include "support/headless.h"
+#include "tests/ui/event_script.h"
+#include "ui/dialog.h"
+#include "ui/text_writer.h"
+#include "ui/ui_style.h"
+
+class NumberPrompt : public Headless {
+protected:
+    static void type(const char* keys) {
+        for (const char* c = keys; *c; ++c) push_text_key(*c);
+    }
+};
+
+TEST_F(NumberPrompt, TypedDigitsReplaceTheValueAndReturnAccepts) {
+    Event_Script script;
+    script.then([] {
+        type("-12");
+        push_key(SDLK_BACKSPACE);
+        type("7");
+        push_key(13);
+    });
+    EXPECT_EQ(Number_Prompt::ask(300, 300, 5, -20, 20), -17);
+    Event_Script keypad;
+    keypad.then([] {
+        push_key(SDLK_KP_1);
+        push_key(SDLK_KP_0);
+        push_key(SDLK_KP_ENTER);
+    });
+    EXPECT_EQ(Number_Prompt::ask(300, 300, 5, 0, 20), 10);
+    // Return at once keeps the value offered.
+    Event_Script keep;
+    keep.then([] { push_key(13); });
+    EXPECT_EQ(Number_Prompt::ask(300, 300, 5, 0, 20), 5);
+}
+
+TEST_F(NumberPrompt, AnEntryOutsideTheBoundsIsRefusedVisibly) {
+    const int x = 300;
+    const int y = 300;
+    // The lower right corner of the box, clear of its text.
+    const int corner_x = x - 4 + 150 - 3;
+    const int corner_y = y - 4 + 57 - 3;
+    Event_Script script;
+    script.then([] {
+        type("300");
+        push_key(13);
+    }).then([] { push_key(27); });
+    EXPECT_EQ(Number_Prompt::ask(x, y, 64, 0, 255), std::nullopt);
+    EXPECT_FALSE(script.ran_out());
+    EXPECT_EQ(read_pixel(corner_x, corner_y), prompt_refused_color);
+
+    Event_Script fixed;
+    fixed.then([] {
+        type("300");
+        push_key(13);
+    }).then([] {
+        push_key(SDLK_BACKSPACE);
+        push_key(SDLK_BACKSPACE);
+        push_key(13);
+    });
+    EXPECT_EQ(Number_Prompt::ask(x, y, 64, 0, 255), 3);
+    Event_Script lone_minus;
+    lone_minus.then([] {
+        type("-");
+        push_key(13);
+    }).then([] { push_key(27); });
+    EXPECT_EQ(Number_Prompt::ask(x, y, 64, -9, 9), std::nullopt);
+    EXPECT_EQ(read_pixel(corner_x, corner_y), prompt_refused_color);
+}
+
+TEST_F(NumberPrompt, APressOutsideTheBoxCancels) {
+    Event_Script script;
+    script.then([] {
+        type("9");
+        push_click(10, 10);
+    });
+    EXPECT_EQ(Number_Prompt::ask(300, 300, 5, 0, 20), std::nullopt);
+    EXPECT_EQ(read_pixel(300 - 4 + 147, 300 - 4 + 54), pane_body_color);
+}
+
+TEST_F(NumberPrompt, APressOnANumberItemOpensThePromptInsideTheDialog) {
+    Dialog d("Numbers");
+    d.add_number_row(10, 4, 0, 99, "Value:");
+    d.finish(true);
+    const Rectangle a = d.find(11)->area;
+    Event_Script script;
+    script.then([&] { push_click(a.x + 1, a.y + 2); })
+        .then([] {
+            type("42");
+            push_key(13);
+        })
+        .then([] { push_key(13); });
+    EXPECT_TRUE(d.run());
+    EXPECT_FALSE(script.ran_out());
+    EXPECT_EQ(d.value_of(11), 42);
+    EXPECT_EQ(d.find(11)->area.width, d.find(11)->text_writer()->measure("42"));
+}

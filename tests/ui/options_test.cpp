@@ -1,0 +1,160 @@
+#include "ui/options.h"
+
+#include <gtest/gtest.h>
+
+#include <filesystem>
+#include <fstream>
+
+#include "support/headless.h"
+#include "tests/ui/event_script.h"
+#include "ui/dialog.h"
+#include "ui/textlist_dialog_item.h"
+
+namespace fs = std::filesystem;
+
+class OptionsTest : public Headless {
+protected:
+    void write_file(const std::string& bytes) const {
+        std::ofstream out(work_dir / "data" / "options.dlg", std::ios::binary);
+        out << bytes;
+    }
+    void write_stream(const std::string& text) const {
+        const uint32_t n = uint32_t(text.size());
+        write_file(std::string{char(n & 255), char(n >> 8 & 255), char(n >> 16 & 255), char(n >> 24)} + text);
+    }
+    static void click_item(Options& o, uint32_t id) {
+        const Rectangle a = o.dialog().find(id)->area;
+        push_click(a.x + a.width / 2, a.y + a.height / 2);
+    }
+    static std::string defaults_text() {
+        return "13,3,2,0,2,4,-1,5,-1,4,-1,3,7,0,7,-1,2,64,0,255,3,5,-1,-1,2,2,1,21,3,"
+               "-1,2,2,1,21,3,-1,2,6,1,8,3,-1,2,6,1,8,3,3,0,0,2,0,1:";
+    }
+};
+
+TEST_F(OptionsTest, WithoutAFileTheDefaultsHold) {
+    Options options;
+    for (int i = 0; i < Options::count; ++i) EXPECT_EQ(options.get(i), 0) << i;
+    options.load();
+    const int32_t expected[Options::count] = {2, 0, 1, 0, 10, 64, 1, 2, 2, 6, 6, 0};
+    for (int i = 0; i < Options::count; ++i) EXPECT_EQ(options.get(i), expected[i]) << Options::names[i];
+    EXPECT_TRUE(options.is_on(Options::show_shadow_brush));
+    EXPECT_FALSE(options.is_on(Options::confirm_quick_save));
+    EXPECT_STREQ(Options::names[4], "editor pixel size: ");
+}
+
+TEST_F(OptionsTest, RowsStandInTheirOrderWithTheCloneStyleLast) {
+    Options options;
+    const auto& rows = options.dialog().container().rows();
+    ASSERT_EQ(rows.size(), 13u);
+    // The first item with an id in each row.
+    const uint32_t first_ids[12] = {30, 40, 50, 70, 80, 90, 100, 110, 120, 150, 160, 130};
+    for (size_t r = 0; r < 12; ++r) {
+        uint32_t id = Dialog_Item::no_id;
+        for (const auto& item : rows[r]->items())
+            if (item->id != Dialog_Item::no_id) {
+                id = item->id;
+                break;
+            }
+        EXPECT_EQ(id, first_ids[r]) << r;
+    }
+}
+
+TEST_F(OptionsTest, AcceptWritesTheWholeDialogAndEditReloads) {
+    Options options;
+    options.load();
+    {
+        Event_Script script;
+        // "More" on the pixel size list wraps from 10 to 3.
+        script.then([&] { click_item(options, 80); }).then([] { push_key('y'); });
+        EXPECT_TRUE(options.edit());
+    }
+    EXPECT_EQ(options.get(Options::editor_pixel_size), 3);
+    std::string text = defaults_text();
+    text.replace(text.find("3,7,0,7"), 7, "3,0,0,7");
+    std::ifstream in(work_dir / "data" / "options.dlg", std::ios::binary);
+    const std::string bytes((std::istreambuf_iterator<char>(in)), {});
+    ASSERT_EQ(bytes.size(), text.size() + 4);
+    EXPECT_EQ(uint8_t(bytes[0]), text.size() & 255);
+    EXPECT_EQ(uint8_t(bytes[1]), text.size() >> 8);
+    EXPECT_EQ(bytes.substr(4), text);
+
+    // The next start reads the file back.
+    Options again;
+    again.load();
+    EXPECT_EQ(again.get(Options::editor_pixel_size), 3);
+
+    // Cancel leaves the settings and the file alone.
+    Event_Script script;
+    script.then([&] { click_item(again, 90); }).then([&] {
+        const Rectangle c = again.dialog().container().rows().back()->items()[1]->area;
+        push_click(c.x + 2, c.y + 2);
+    });
+    EXPECT_FALSE(again.edit());
+    EXPECT_EQ(again.get(Options::grid_intensity), 64);
+    EXPECT_EQ(again.dialog().value_of(91), 64);
+}
+
+TEST_F(OptionsTest, MoreOnTheLastCloneStyleShowsTheFirst) {
+    Options options;
+    auto* list = static_cast<Textlist_Dialog_Item*>(options.dialog().find(131));
+    list->choice.value = 2;
+    EXPECT_STREQ(list->current(), "Resize clone to current size");
+    Event_Script script;
+    script.then([&] { click_item(options, 130); }).then([] { push_key(13); });
+    EXPECT_TRUE(options.edit());
+    EXPECT_STREQ(list->current(), "Center clone to image");
+    EXPECT_EQ(options.get(Options::clone_style), 0);
+}
+
+TEST_F(OptionsTest, OddFilesLoadIntegerByInteger) {
+    // Length 0: nothing is loaded.
+    write_file(std::string(4, '\0'));
+    {
+        Options o;
+        o.load();
+        EXPECT_EQ(o.get(Options::editor_pixel_size), 10);
+        EXPECT_EQ(o.get(Options::grid_intensity), 64);
+    }
+    // Fewer integers: the missing ones read 0.
+    write_stream("13,3,1,0,2,5:");
+    {
+        Options o;
+        o.load();
+        EXPECT_EQ(o.get(Options::precise_brush), 1);
+        EXPECT_EQ(o.get(Options::blocky_precise_brush), 1);
+        EXPECT_EQ(o.get(Options::show_shadow_brush), 0);
+        EXPECT_EQ(o.get(Options::editor_pixel_size), 3);
+        EXPECT_EQ(o.get(Options::grid_intensity), 0);
+    }
+    // More integers: the surplus is ignored.
+    write_stream(defaults_text().substr(0, defaults_text().size() - 1) + ",9,9,9:");
+    {
+        Options o;
+        o.load();
+        EXPECT_EQ(o.get(Options::grid_intensity), 64);
+        EXPECT_EQ(o.get(Options::clone_style), 0);
+    }
+    // Garbage digits convert as far as they are digits.
+    std::string garbage = defaults_text();
+    garbage.replace(garbage.find("64,0,255"), 8, "1x9,ab,25z");
+    write_stream(garbage);
+    {
+        Options o;
+        o.load();
+        EXPECT_EQ(o.get(Options::grid_intensity), 1);
+        EXPECT_EQ(o.dialog().value_of(91), 1);
+        EXPECT_EQ(o.get(Options::repeat_x_tiles), 2);
+    }
+}
+
+using OptionsDeathTest = OptionsTest;
+
+TEST_F(OptionsDeathTest, ATruncatedFileIsTheFatalBlockError) {
+    GTEST_FLAG_SET(death_test_style, "threadsafe");
+    write_stream(defaults_text());
+    fs::resize_file(work_dir / "data" / "options.dlg", 20);
+    EXPECT_EXIT({ Options o; }, testing::ExitedWithCode(1), "");
+    write_file("\x05\x00");
+    EXPECT_EXIT({ Options o; }, testing::ExitedWithCode(1), "");
+}

@@ -1,0 +1,23 @@
+#include "ui/backdrop.h"
+
+#include "app/globals.h"
+#include "app/main_window.h"
+
+void Backdrop::set_base(Painter painter, void* context) { base = Layer{painter, context}; }
+
+void Backdrop::push(Painter painter, void* context) {
+    // Deeper nesting than the table holds is not drawn, but still balanced.
+    if (count < max_layers) layers[count] = Layer{painter, context};
+    ++count;
+}
+
+void Backdrop::pop() {
+    if (count > 0) --count;
+}
+
+void Backdrop::paint() {
+    g_main_window->clear();
+    if (base.painter) base.painter(base.context);
+    const int drawn = count < max_layers ? count : max_layers;
+    for (int i = 0; i < drawn; ++i) layers[i].painter(layers[i].context);
+}

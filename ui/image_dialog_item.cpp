@@ -1,0 +1,24 @@
+#include "ui/image_dialog_item.h"
+
+#include "app/globals.h"
+#include "app/main_window.h"
+#include "app/texture.h"
+#include "ui/image_pool.h"
+
+Image_Dialog_Item::Image_Dialog_Item(int sprite) : Dialog_Item(no_id, no_id), sprite(sprite) {
+    area.width = g_main_window->pool().sprite_width(sprite);
+    area.height = g_main_window->pool().sprite_height(sprite);
+}
+
+Image_Dialog_Item::Image_Dialog_Item(Texture& texture)
+    : Dialog_Item(no_id, no_id), texture(&texture) {
+    area.width = texture.width();
+    area.height = texture.height();
+}
+
+void Image_Dialog_Item::draw() {
+    if (texture)
+        texture->draw_at(area.x, area.y);
+    else
+        g_main_window->sprite(sprite, area.x, area.y);
+}
