@@ -5,6 +5,7 @@
 #include "app/globals.h"
 #include "app/main_window.h"
 #include "app/sprites.h"
+#include "document/tileset.h"
 #include "ui/dialog.h"
 
 void Message_Box::show_message(const char* title, const char* text) {
@@ -46,6 +47,8 @@ void Message_Box::show_about() {
     dialog.finish(false);
     dialog.run();
 }
+
+void Message_Box::show_statistics(const Tileset& tileset) { show_statistics(tileset.statistics_text()); }
 
 void Message_Box::show_statistics(const std::string& text) {
     Dialog dialog("Statistics");

@@ -2,6 +2,8 @@
 
 #include <string>
 
+class Tileset;
+
 // The program's small modal windows: messages, the yes/no question, the About
 // box and the statistics window. One instance is made at start-up.
 class Message_Box {
@@ -21,6 +23,7 @@ public:
     // The logo, version, window size and renderer.
     void show_about();
     static std::string about_text();
-    // The statistics text of a tileset in a window of its own.
+    // The tileset's statistics text in a window of its own.
+    void show_statistics(const Tileset& tileset);
     void show_statistics(const std::string& text);
 };
