@@ -6,14 +6,23 @@
 
 #include "app/data_directory.h"
 #include "app/debug_log.h"
+#include "app/editor.h"
 #include "app/fatal.h"
 #include "app/globals.h"
 #include "app/main_window.h"
-#include "app/sprites.h"
-#include "ui/image_pool.h"
+#include "app/prompt_dialogs.h"
+#include "app/sdl_tile_texture.h"
+#include "color/palette.h"
+#include "document/tile_texture.h"
 #include "ui/fonts.h"
+#include "ui/message_box.h"
+#include "ui/options.h"
+#include "ui/ui_globals.h"
 
 int Application::main() {
+    // Keys arrive as the unshifted key, so Shift+R is R with Shift held, as
+    // the command table binds it.
+    SDL_SetHint(SDL_HINT_KEYCODE_OPTIONS, "unmodified");
     if (!SDL_InitSubSystem(SDL_INIT_VIDEO)) {
         std::printf("Error: %s.\n", "Unable to initialize SDL video.");
         return 1;
@@ -26,37 +35,41 @@ int Application::main() {
     return 0;
 }
 
+// The order matters: each object may use those made before it.
 void Application::start_up() {
     // The log keeps as many lines as the debug monitor can show.
     const int screen_lines = int(Main_Window::default_height) / font_table[font_regular].glyph_height;
     g_debug_log = new Debug_Log(size_t(screen_lines - 1));
     if (Data_Directory::enter(Data_Directory::data) <= 0) fatal_error("Unable to open 'data' directory.");
     g_main_window = new Main_Window(Main_Window::default_width, Main_Window::default_height);
+    set_tile_texture_maker(make_sdl_tile_texture);
+    g_palette = new Palette();
+    g_message_box = new Message_Box();
     Data_Directory::leave();
+    g_prompt_dialogs = new Prompt_Dialogs();
+    g_editor = new Editor();
+    g_options = new Options();
+    g_options->load();
 }
 
-// Until the editor arrives: the window with the logo and a line of text,
-// repainted per event, until the window is asked to close.
-void Application::run() {
-    SDL_Event event;
-    for (;;) {
-        Main_Window& w = *g_main_window;
-        w.clear();
-        const SDL_FRect& logo = w.pool().sprite_rect(sprite_logo);
-        const int logo_x = (int(w.width()) - int(logo.w)) / 2;
-        const int logo_y = int(w.height()) / 2 - 60;
-        w.sprite(sprite_logo, logo_x, logo_y);
-        const char* line = "Mosswick 0.88 - the tileset editor";
-        w.text((int(w.width()) - w.text_width(line)) / 2, logo_y + int(logo.h) + 16, line);
-        w.present();
-        if (!SDL_WaitEvent(&event)) break;
-        if (event.type == SDL_EVENT_QUIT || event.type == SDL_EVENT_WINDOW_CLOSE_REQUESTED) break;
-    }
-}
+void Application::run() { g_editor->run(); }
 
+// Not the mirror of start-up: the options go first and the editor second, and
+// the data directory is entered again only around the files written there.
 void Application::shut_down() {
+    delete g_options;
+    g_options = nullptr;
+    delete g_editor;
+    g_editor = nullptr;
+    delete g_prompt_dialogs;
+    g_prompt_dialogs = nullptr;
     Data_Directory::enter(Data_Directory::data);
+    delete g_palette;
+    g_palette = nullptr;
     Data_Directory::leave();
+    delete g_message_box;
+    g_message_box = nullptr;
+    set_tile_texture_maker(nullptr);
     delete g_main_window;
     g_main_window = nullptr;
     delete g_debug_log;

@@ -13,6 +13,7 @@ Texture::~Texture() { SDL_DestroyTexture(texture); }
 Texture* Texture::from_surface(SDL_Renderer* renderer, SDL_Surface* surface) {
     SDL_Texture* t = SDL_CreateTextureFromSurface(renderer, surface);
     if (!t) fatal_error("Could not set SDL texture from surface.");
+    SDL_SetTextureScaleMode(t, SDL_SCALEMODE_NEAREST);
     return new Texture(t, renderer, surface->w, surface->h);
 }
 
@@ -21,6 +22,7 @@ Texture* Texture::from_pixels(SDL_Renderer* renderer, const Color* pixels, int w
                                        SDL_TEXTUREACCESS_STREAMING, width, height);
     if (!t) fatal_error("Could not set SDL texture from pixel data.");
     SDL_SetTextureBlendMode(t, SDL_BLENDMODE_BLEND);
+    SDL_SetTextureScaleMode(t, SDL_SCALEMODE_NEAREST);
     Texture* result = new Texture(t, renderer, width, height);
     result->update(pixels);
     return result;

@@ -11,6 +11,12 @@ public:
     virtual ~Tile_Texture() = default;
     virtual void update(const Color* pixels) = 0;
     virtual void draw(int x, int y) = 0;
+    // The magnified canvas draws the tile stretched over its cells.
+    virtual void draw_scaled(int x, int y, int width, int height) {
+        (void)width;
+        (void)height;
+        draw(x, y);
+    }
 };
 
 using Tile_Texture_Maker = std::unique_ptr<Tile_Texture> (*)(int width, int height,

@@ -44,16 +44,27 @@ echo "$geometry" | grep -q "1232x664" || fail "window is not 1232 x 664"
 # Pixel positions below are window coordinates; the screenshot is of the screen.
 read -r wx wy < <(echo "$geometry" | sed -n 's/.*Position: \([0-9]*\),\([0-9]*\).*/\1 \2/p')
 pixel() { /usr/bin/convert "$workdir/shot.png" -format "%[pixel:p{$(($1 + wx)),$(($2 + wy))}]" info:; }
-bg=$(pixel 5 5)
-[ "$bg" = "srgb(137,137,137)" ] || fail "background is $bg, not grey 137"
-# The logo and the text put something other than background into the middle band.
-distinct=$(/usr/bin/convert "$workdir/shot.png" -crop 600x140+$((316 + wx))+$((220 + wy)) +repage -unique-colors -format "%w" info:)
-[ "$distinct" -gt 3 ] || fail "nothing drawn in the middle of the window ($distinct colours)"
+title=$(xdotool getwindowname "$window")
+[ "$title" = "Mosswick 0.88 - untitled1" ] || fail "title is '$title'"
+bg=$(pixel 600 600)
+[ "$bg" = "srgb(137,137,137)" ] || fail "background below the canvas is $bg, not grey 137"
+# The first tile is opaque black, magnified and centred in the canvas area,
+# with a lighter grid line at the bottom and right of every cell.
+centre=$(pixel 515 315)
+[ "$centre" = "srgb(0,0,0)" ] || fail "the middle of the canvas is $centre, not the black tile"
+grid=$(/usr/bin/convert "$workdir/shot.png" -crop 60x1+$((490 + wx))+$((300 + wy)) +repage -unique-colors -format "%w" info:)
+[ "$grid" -ge 2 ] || fail "no grid lines across the tile"
+# The menu bar's titles are written in dark ink.
+ink=$(/usr/bin/convert "$workdir/shot.png" -crop 40x20+$((wx))+$((wy)) +repage -unique-colors -format "%w" info:)
+[ "$ink" -ge 2 ] || fail "no menu titles"
 
-# A termination request reaches the program as a quit event and ends it normally.
-kill -TERM "$app"
+# Escape asks whether to quit; "y" answers yes and the program ends normally.
+xdotool windowfocus --sync "$window" 2>/dev/null
+xdotool key --window "$window" Escape
+sleep 0.5
+xdotool key --window "$window" y
 for _ in $(seq 100); do kill -0 "$app" 2>/dev/null || break; sleep 0.1; done
-if kill -0 "$app" 2>/dev/null; then fail "program still running after its window was closed"; fi
+if kill -0 "$app" 2>/dev/null; then fail "program still running after Escape and y"; fi
 wait "$app"
 code=$?
 [ "$code" -eq 0 ] || { cat "$workdir/out.log"; fail "exit code $code"; }

@@ -30,6 +30,10 @@ struct Font_Layout {
     Glyph_Set glyphs;
     bool shadowed = false;  // light text gets a dark shadow one pixel down and right
     Rgb shadow{};
+    // A highlight font fills its whole cell, so text written in it stands on
+    // a bar as wide as the text: the menus highlight by switching to it.
+    bool filled = false;
+    Rgb fill{};
 };
 
 constexpr int glyph_count = 95;  // printable ASCII, codes 32 to 126
@@ -56,6 +60,9 @@ void paint_font(Canvas& canvas, const Font_Layout& font)
             };
             // The shadow stays inside the glyph's own cell, so it never
             // touches the neighbouring glyph.
+            if (font.filled)
+                for (int r = 0; r < font.line_height; ++r)
+                    for (int c = 0; c < font.glyphs.width; ++c) canvas.set(x + c, marker_y + 1 + r, font.fill);
             for (int r = 0; r <= font.glyphs.height; ++r)
                 for (int c = 0; c < font.glyphs.width; ++c) {
                     if (ink_at(c, r))
@@ -94,7 +101,7 @@ void paint_fonts(Canvas& canvas)
     paint_font(canvas, {226, 20, 2, 3, dark_ink, small});
     paint_font(canvas, {268, 20, 2, 3, light_ink, small, true, {30, 72, 36}});
     // Dialog and menu text: dark; the highlighted menu item: white with a
-    // navy shadow, readable on the highlight and on a light background alike.
+    // navy shadow on a blue bar of its own.
     paint_font(canvas, {310, 23, 3, 1, dark_ink, large});
-    paint_font(canvas, {382, 23, 3, 1, light_ink, large, true, {0, 32, 96}});
+    paint_font(canvas, {382, 23, 3, 1, light_ink, large, true, {0, 32, 96}, true, {0, 60, 230}});
 }

@@ -1,0 +1,248 @@
+#include "app/canvas_view.h"
+
+#include <algorithm>
+
+#include "app/globals.h"
+#include "app/main_window.h"
+#include "app/ui_colors.h"
+#include "document/transforms.h"
+#include "ui/wait_for_key.h"
+
+namespace {
+// Floor division, so cells left of or above the tile get negative numbers.
+int floor_div(int a, int b) { return a >= 0 ? a / b : -((-a + b - 1) / b); }
+
+bool is_selected(const Tile& m, int x, int y) {
+    if (m.is_outside(x, y)) return false;
+    const Color c = m.get_pixel(x, y);
+    return c.blue == 255 && c.green == 255 && c.red == 255;
+}
+}  // namespace
+
+Canvas_View::Canvas_View(const Rectangle& view, Color background) : view(view), background(background) {}
+
+Canvas_View::~Canvas_View() = default;
+
+bool Canvas_View::set_pixel_size(int s) {
+    if (s < min_pixel_size || s > max_pixel_size) return false;
+    cell_size = s;
+    update_extent();
+    return true;
+}
+
+void Canvas_View::update_extent() {
+    extent_w = shown ? shown->width() * cell_size : 0;
+    extent_h = shown ? shown->height() * cell_size : 0;
+}
+
+bool Canvas_View::zoom(int direction) {
+    const int old_w = extent_w;
+    const int old_h = extent_h;
+    if (!set_pixel_size(cell_size + direction)) return false;
+    pan((old_w - extent_w) / 2, (old_h - extent_h) / 2);
+    return true;
+}
+
+void Canvas_View::pan(int dx, int dy) {
+    origin_x += dx;
+    origin_y += dy;
+}
+
+void Canvas_View::centre() {
+    origin_x = view.x + (view.width > extent_w ? (view.width - extent_w) / 2 : 0);
+    origin_y = view.y + (view.height > extent_h ? (view.height - extent_h) / 2 : 0);
+}
+
+void Canvas_View::set_checker_size(int width, int height) {
+    checker_w = width > 0 ? width : 1;
+    checker_h = height > 0 ? height : 1;
+}
+
+void Canvas_View::set_tile(Tile* tile) {
+    if (shown) end_seams();
+    const bool new_size = !shown || !tile || !shown->same_size(*tile);
+    shown = tile;
+    update_extent();
+    if (new_size) {
+        resize_masks();
+        centre();
+    }
+}
+
+void Canvas_View::resize_masks() {
+    if (!shown) return;
+    const int w = shown->width();
+    const int h = shown->height();
+    mask = std::make_unique<Tile>(w, h);
+    second_mask = std::make_unique<Tile>(w, h);
+    history = std::make_unique<Tile>(w, h);
+    shown->copy_into(*history);
+    selection_on = false;
+    second_on = false;
+    pending = false;
+}
+
+void Canvas_View::reset_selection() {
+    if (mask) mask->fill(Color(0, 0, 0));
+    if (second_mask) second_mask->fill(Color(0, 0, 0));
+    selection_on = false;
+    second_on = false;
+}
+
+void Canvas_View::save_copy() {
+    if (shown && history) shown->copy_into(*history);
+}
+
+void Canvas_View::set_seam_offsets(int horizontal, int vertical) {
+    seam_h = horizontal;
+    seam_v = vertical;
+}
+
+void Canvas_View::end_seams() {
+    if (!shown) return;
+    if (seam_h >= 0) {
+        for (int i = 0; i < seam_h; ++i) offset_copy(*shown, 1, 0);
+        seam_h = -1;
+        if (seam_released) seam_released(true);
+    }
+    if (seam_v >= 0) {
+        for (int i = 0; i < seam_v; ++i) offset_copy(*shown, 0, 1);
+        seam_v = -1;
+        if (seam_released) seam_released(false);
+    }
+    shown->update_texture();
+}
+
+void Canvas_View::commit_float() {
+    if (!pending || !floating || !shown) return;
+    for (int y = 0; y < floating->height(); ++y)
+        for (int x = 0; x < floating->width(); ++x) {
+            const Color c = floating->get_pixel(x, y);
+            if (c.alpha != 0) shown->set_pixel(float_x + x, float_y + y, c);
+        }
+    shown->update_texture();
+    pending = false;
+}
+
+void Canvas_View::paste(const Tile& image, int x, int y) {
+    commit_float();
+    floating = std::make_unique<Tile>(image.width(), image.height());
+    image.copy_into(*floating);
+    float_x = x;
+    float_y = y;
+    pending = true;
+}
+
+Cell Canvas_View::cell_at(float x, float y) const {
+    return Cell{floor_div(int(x) - origin_x, cell_size), floor_div(int(y) - origin_y, cell_size)};
+}
+
+void Canvas_View::draw(Main_Window& window) {
+    window.fill_rect(view, background);
+    if (!shown) return;
+    const int s = cell_size;
+    // Only the tile columns and rows that meet the view are visited.
+    const int first_x = std::max(0, floor_div(view.x - origin_x, s));
+    const int first_y = std::max(0, floor_div(view.y - origin_y, s));
+    const int last_x = std::min(shown->width() - 1, floor_div(view.x + view.width - 1 - origin_x, s));
+    const int last_y = std::min(shown->height() - 1, floor_div(view.y + view.height - 1 - origin_y, s));
+    if (first_x > last_x || first_y > last_y) return;
+    SDL_Rect clip{view.x, view.y, view.width, view.height};
+    SDL_SetRenderClipRect(window.renderer(), &clip);
+    for (int ty = first_y; ty <= last_y; ++ty)
+        for (int tx = first_x; tx <= last_x; ++tx) draw_cell(window, tx, ty, origin_x + tx * s, origin_y + ty * s);
+    SDL_SetRenderClipRect(window.renderer(), nullptr);
+}
+
+void Canvas_View::draw_cell(Main_Window& window, int tx, int ty, int px, int py) {
+    const int s = cell_size;
+    const bool light = ((tx / checker_w) + (ty / checker_h)) % 2 == 0;
+    window.fill_rect(Rectangle{px, py, s, s}, ui_colors[light ? 19 : 18]);
+    const Color pixel = shown->get_pixel(tx, ty);
+    window.fill_rect(Rectangle{px, py, s, s}, pixel);
+
+    // The grid is a contrast of each pixel's own colour, drawn opaque so that
+    // it shows over transparent pixels too.
+    Color grid = pixel;
+    grid.alpha = 255;
+    if (grid.red < 40 && grid.green < 40 && grid.blue < 40)
+        lighten(grid, grid_contrast);
+    else
+        darken(grid, grid_contrast);
+    window.fill_rect(Rectangle{px, py + s - 1, s, 1}, grid);
+    window.fill_rect(Rectangle{px + s - 1, py, 1, s - 1}, grid);
+
+    if (!selection_on) {
+        if (pending && float_visible && floating) {
+            const Color f = floating->get_pixel(tx - float_x, ty - float_y);
+            if (f.alpha != 0) window.fill_rect(Rectangle{px, py, s, s}, f);
+        }
+    } else if (is_selected(*mask, tx, ty)) {
+        draw_edges(window, *mask, tx, ty, px, py, false);
+    } else {
+        window.fill_rect(Rectangle{px, py, s, s}, ui_colors[1]);
+    }
+    if (second_on && is_selected(*second_mask, tx, ty)) draw_edges(window, *second_mask, tx, ty, px, py, true);
+
+    if (seam_h >= 0 && tx == shown->width() / 2) window.edge_v(Edge_Kind::seam, px, py, s, ty % 2 == 1);
+    if (seam_v >= 0 && ty == shown->height() / 2) window.edge_h(Edge_Kind::seam, px, py, s, tx % 2 == 1);
+}
+
+// Dashed edges on the sides whose neighbour is not selected; the phase follows
+// the column (row) so neighbouring cells continue the dashes.
+void Canvas_View::draw_edges(Main_Window& window, const Tile& m, int tx, int ty, int px, int py, bool active) {
+    const int s = cell_size;
+    const Edge_Kind kind = active ? Edge_Kind::active_selection : Edge_Kind::selection;
+    const int thick = s > 6 ? 2 : 1;
+    const bool column_phase = tx % 2 == 1;
+    const bool row_phase = ty % 2 == 1;
+    if (!is_selected(m, tx, ty - 1)) window.edge_h(kind, px, py, s, column_phase);
+    if (!is_selected(m, tx, ty + 1)) window.edge_h(kind, px, py + s - thick, s, column_phase);
+    if (!is_selected(m, tx - 1, ty)) window.edge_v(kind, px, py, s, row_phase);
+    if (!is_selected(m, tx + 1, ty)) window.edge_v(kind, px + s - thick, py, s, row_phase);
+}
+
+void Canvas_View::keep_pointer_on_tile(float x, float y) {
+    const int left = std::max(origin_x, view.x);
+    const int top = std::max(origin_y, view.y);
+    const int right = std::min(origin_x + extent_w, view.x + view.width) - 1;
+    const int bottom = std::min(origin_y + extent_h, view.y + view.height) - 1;
+    if (right < left || bottom < top) return;
+    const int px = std::clamp(int(x), left, right);
+    const int py = std::clamp(int(y), top, bottom);
+    if (px != int(x) || py != int(y)) g_main_window->warp(px, py);
+}
+
+Cell Canvas_View::press(Stroke_Action& action, int button, float x, float y) {
+    std::unique_ptr<Tile> backup;
+    if (action.works_from_backup() && shown) {
+        backup = std::make_unique<Tile>(shown->width(), shown->height());
+        shown->copy_into(*backup);
+    }
+    const bool hidden = action.hides_cursor();
+    if (hidden) g_main_window->show_cursor(false);
+
+    Cell start = cell_at(x, y);
+    action.begin(*this, start, button);
+    action.apply(*this, start, start, button);
+    Cell current = start;
+    bool dragged = false;
+    SDL_Event event;
+    for (;;) {
+        if (repaint) repaint();
+        if (!SDL_WaitEvent(&event)) break;
+        if (event.type == SDL_EVENT_MOUSE_BUTTON_UP || event.type == SDL_EVENT_QUIT) break;
+        if (event.type != SDL_EVENT_MOUSE_MOTION) continue;
+        current = cell_at(event.motion.x, event.motion.y);
+        if (action.keeps_pointer_on_tile()) keep_pointer_on_tile(event.motion.x, event.motion.y);
+        if (!(current == start)) dragged = true;
+        if (backup) backup->copy_into(*shown);
+        if (action.draws_while_dragging()) action.apply(*this, start, current, button);
+        if (action.start_follows_pointer()) start = current;
+    }
+    flush_events();
+    if (hidden) g_main_window->show_cursor(true);
+    action.finish(*this, start, current, button, dragged);
+    if (shown) shown->update_texture();
+    return current;
+}

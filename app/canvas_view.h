@@ -1,0 +1,116 @@
+#pragma once
+
+#include <SDL3/SDL.h>
+
+#include <functional>
+#include <memory>
+
+#include "app/stroke_action.h"
+#include "color/color.h"
+#include "document/tile.h"
+#include "ui/rectangle.h"
+
+class Main_Window;
+
+// The current tile magnified in the canvas area: every tile pixel a square
+// cell over a checkerboard, with a per-cell grid line in a contrast of the
+// pixel's own colour, the selection's dashed edges, a veil outside the
+// selection, a pending floating image and the seam markers. It keeps the zoom,
+// the pan and the seam offsets, and runs strokes in a loop of its own.
+class Canvas_View {
+public:
+    static constexpr int min_pixel_size = 3;
+    static constexpr int max_pixel_size = 32;
+
+    Canvas_View(const Rectangle& view, Color background);
+    ~Canvas_View();
+    Canvas_View(const Canvas_View&) = delete;
+    Canvas_View& operator=(const Canvas_View&) = delete;
+
+    // Accepted only for 3..32.
+    bool set_pixel_size(int s);
+    int pixel_size() const { return cell_size; }
+    // One step of the wheel; keeps the tile's centre where it was.
+    bool zoom(int direction);
+    void pan(int dx, int dy);
+    void centre();
+    void set_grid_contrast(int amount) { grid_contrast = amount; }
+    // The checkerboard behind transparent pixels, in tile pixels per square.
+    void set_checker_size(int width, int height);
+
+    // Ends the seam offsets of the tile shown before, takes the new tile and
+    // sizes the selection to it. A tile of another size is centred.
+    void set_tile(Tile* tile);
+    Tile* tile() const { return shown; }
+    void save_copy();
+    const Tile* saved_copy() const { return history.get(); }
+
+    // Seam offsets: -1 is off, otherwise how far the tile is scrolled.
+    int seam_offset_h() const { return seam_h; }
+    int seam_offset_v() const { return seam_v; }
+    void set_seam_offsets(int horizontal, int vertical);
+    void end_seams();
+
+    // The selection mask: pixels whose blue, green and red are all 255.
+    Tile* selection() { return mask.get(); }
+    bool has_selection() const { return selection_on; }
+    void set_has_selection(bool on) { selection_on = on; }
+    Tile* drawn_selection() { return second_mask.get(); }
+    void set_drawing_selection(bool on) { second_on = on; }
+    void reset_selection();
+
+    // A pasted or moved image that is not yet part of the tile.
+    bool float_pending() const { return pending; }
+    void commit_float();
+    void paste(const Tile& image, int x = 0, int y = 0);
+    void set_float_visible(bool on) { float_visible = on; }
+
+    bool contains(float x, float y) const { return view.contains(x, y); }
+    Cell cell_at(float x, float y) const;
+    const Rectangle& view_rect() const { return view; }
+    SDL_Point origin() const { return SDL_Point{origin_x, origin_y}; }
+    int extent_width() const { return extent_w; }
+    int extent_height() const { return extent_h; }
+
+    void draw(Main_Window& window);
+
+    // The stroke: runs the action from the press until the button is released
+    // or a quit arrives, repainting after every event. Returns the last cell.
+    Cell press(Stroke_Action& action, int button, float x, float y);
+
+    // Repaints the whole window with present; set by the editor.
+    std::function<void()> repaint;
+    // The tool bar's seam button for an offset that was ended (true: horizontal).
+    std::function<void(bool horizontal)> seam_released;
+
+private:
+    void draw_cell(Main_Window& window, int tx, int ty, int px, int py);
+    void draw_edges(Main_Window& window, const Tile& m, int tx, int ty, int px, int py, bool active);
+    void keep_pointer_on_tile(float x, float y);
+    void resize_masks();
+    void update_extent();
+
+    Rectangle view;
+    Color background;
+    int cell_size = 10;
+    Tile* shown = nullptr;
+    std::unique_ptr<Tile> history;
+    std::unique_ptr<Tile> mask;
+    std::unique_ptr<Tile> second_mask;
+    std::unique_ptr<Tile> floating;
+    int float_x = 0;
+    int float_y = 0;
+    bool pending = false;
+    bool float_visible = false;
+    bool selection_on = false;
+    bool second_on = false;
+    int grid_contrast = 64;
+    int checker_w = 6;
+    int checker_h = 6;
+    int seam_h = -1;
+    int seam_v = -1;
+    int origin_x = 0;
+    int origin_y = 0;
+    int extent_w = 0;
+    int extent_h = 0;
+};

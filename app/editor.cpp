@@ -1,0 +1,268 @@
+#include "app/editor.h"
+
+#include "app/canvas_view.h"
+#include "app/commands.h"
+#include "app/globals.h"
+#include "app/main_window.h"
+#include "app/stroke_action.h"
+#include "app/tileset_tabs.h"
+#include "app/tool_bar.h"
+#include "app/ui_colors.h"
+#include "ui/backdrop.h"
+#include "ui/menu_bar.h"
+#include "ui/message_box.h"
+#include "ui/options.h"
+#include "ui/ui_globals.h"
+#include "ui/wait_for_key.h"
+
+Editor* g_editor = nullptr;
+
+namespace {
+void paint_editor(void* editor) { static_cast<Editor*>(editor)->repaint(false); }
+
+// Shift wins over Ctrl and Ctrl over Alt, so Ctrl+Shift+S reads as Shift+S.
+int modifier_class(SDL_Keymod mod) {
+    if (mod & SDL_KMOD_SHIFT) return modifier_shift;
+    if (mod & SDL_KMOD_CTRL) return modifier_ctrl;
+    if (mod & SDL_KMOD_ALT) return modifier_alt;
+    return modifier_none;
+}
+
+// A modifier pressed alone matches no keyed command.
+SDL_Keycode key_code(SDL_Keycode key) {
+    switch (key) {
+        case SDLK_LSHIFT:
+        case SDLK_RSHIFT:
+        case SDLK_LCTRL:
+        case SDLK_RCTRL:
+        case SDLK_LALT:
+        case SDLK_RALT:
+            return 0;
+        default:
+            return key;
+    }
+}
+
+uint32_t button_code(Uint8 sdl_button) {
+    if (sdl_button == SDL_BUTTON_LEFT) return Editor::button_left;
+    if (sdl_button == SDL_BUTTON_RIGHT) return Editor::button_right;
+    return Editor::button_none;
+}
+}  // namespace
+
+Editor::Editor()
+    : menu_bar(std::make_unique<Menu_Bar>()),
+      tool_bar(std::make_unique<Tool_Bar>(0, 32, 0)),
+      canvas_view(std::make_unique<Canvas_View>(canvas_area, ui_colors[background_color_index])),
+      tileset_tabs(std::make_unique<Tileset_Tabs>(Rectangle{264, 30, 512, 30})) {
+    menu_bar->redraw = [this] { repaint(false); };
+    canvas_view->repaint = [this] { repaint(true); };
+    canvas_view->seam_released = [this](bool horizontal) { tool_bar->set_seam(horizontal, false); };
+    open.set_window_title = [](const std::string& name) { g_main_window->set_title(name); };
+    open.confirm_close = [] {
+        return g_message_box->ask("Close", "Current tileset is not saved. Close it anyway?\r(Progress will be lost.)");
+    };
+    open.current_changed = [this](Tileset&) { show_current_tile(); };
+    Backdrop::set_base(paint_editor, this);
+}
+
+Editor::~Editor() {
+    Backdrop::set_base(nullptr, nullptr);
+    tool_bar.reset();
+    menu_bar.reset();
+    canvas_view.reset();
+    open.destroy_all();
+}
+
+bool Editor::begin() {
+    if (!open.new_tileset(fresh_tile_size, fresh_tile_size)) return false;
+    relayout();
+    return true;
+}
+
+void Editor::run() {
+    if (!begin()) return;
+    SDL_Event event;
+    while (!quit) {
+        repaint(true);
+        if (!SDL_WaitEvent(&event)) break;
+        handle(event);
+    }
+}
+
+void Editor::handle(const SDL_Event& event) {
+    switch (event.type) {
+        case SDL_EVENT_MOUSE_MOTION:
+            pointer_x = event.motion.x;
+            pointer_y = event.motion.y;
+            break;
+        case SDL_EVENT_MOUSE_BUTTON_DOWN:
+            pointer_x = event.button.x;
+            pointer_y = event.button.y;
+            button = button_code(event.button.button);
+            if (ctrl && button == button_right) {
+                ctrl = false;
+                pan_loop();
+            } else if (button != button_none) {
+                press();
+            }
+            break;
+        case SDL_EVENT_MOUSE_WHEEL:
+            if (event.wheel.y > 0)
+                zoom(1);
+            else if (event.wheel.y < 0)
+                zoom(-1);
+            break;
+        case SDL_EVENT_KEY_DOWN: {
+            const int modifier = modifier_class(event.key.mod);
+            if (modifier == modifier_ctrl) ctrl = true;
+            const int command = commands::find_key(key_code(event.key.key), modifier);
+            if (command >= 0) run_command(command);
+            break;
+        }
+        case SDL_EVENT_KEY_UP:
+            ctrl = false;
+            break;
+        case SDL_EVENT_QUIT:
+            execute(command_quit);
+            break;
+        default:
+            break;
+    }
+}
+
+void Editor::repaint(bool present) {
+    Main_Window& w = *g_main_window;
+    // The layout leaves the window's last column to nobody: clear it all.
+    w.clear();
+    canvas_view->draw(w);
+    // The backgrounds frame the canvas before the panes are drawn over them,
+    // so nothing to the right of the canvas is painted over.
+    for (const Rectangle& r : background_rects) w.fill_rect(r, ui_colors[background_color_index]);
+    w.fill_rect(Rectangle{0, 632, int(w.width()), int(w.height()) - 632}, ui_colors[background_color_index]);
+    menu_bar->draw(SDL_Point{int(pointer_x), int(pointer_y)});
+    tool_bar->draw();
+    tileset_tabs->draw(open);
+    if (present) w.present();
+}
+
+void Editor::relayout() {
+    const int pixel_size = g_options ? g_options->get(Options::editor_pixel_size) + 3 : 13;
+    canvas_view->set_pixel_size(pixel_size);
+    if (g_options) {
+        canvas_view->set_grid_contrast(g_options->get(Options::grid_intensity));
+        canvas_view->set_checker_size(g_options->get(Options::alpha_grid_width),
+                                      g_options->get(Options::alpha_grid_height));
+    }
+    canvas_view->centre();
+}
+
+void Editor::show_current_tile() {
+    Tileset* t = open.current();
+    canvas_view->set_tile(t ? t->store().current_tile() : nullptr);
+}
+
+void Editor::run_command(int command) {
+    const int result = execute(command);
+    if (result < 0 || !open.current()) return;
+    const int group = commands::group(result);
+    if (group == group_image || group == group_tile_list) open.current()->set_modified();
+}
+
+int Editor::canvas_action(int tool, int rectangle_type, int circle_type) {
+    switch (tool) {
+        case command_pen: return 8;
+        case command_dropper: return 11;
+        case command_lightness_pen: return 10;
+        case command_colorize_pen: return 9;
+        case command_flood_fill: return 12;
+        case command_line: return 0;
+        case command_rectangle: return 1 + rectangle_type;
+        case command_circle: return 4 + circle_type;
+        case command_stamp_brush: return 7;
+        case command_smudge_brush: return 13;
+        case command_rectangle_selector: return 18;
+        case command_circle_selector: return 17;
+        case command_brush_selector: return 16;
+        case command_wand_selector: return 19;
+        case command_work_selection: return 20;
+        case command_scroll: return 14;
+        case command_freehand_rotate: return 15;
+        default: return -1;
+    }
+}
+
+void Editor::set_stroke_action(int action, Stroke_Action* stroke) {
+    if (action >= 0 && action < int(std::size(actions))) actions[action] = stroke;
+}
+
+void Editor::press() {
+    const int x = int(pointer_x);
+    const int y = int(pointer_y);
+    if (canvas_view->contains(pointer_x, pointer_y)) {
+        const int action = canvas_action(tool);
+        Stroke_Action* stroke = action >= 0 ? actions[action] : nullptr;
+        if (stroke && canvas_view->tile()) {
+            canvas_view->press(*stroke, int(button), pointer_x, pointer_y);
+            if (action != 20 && commands::group(tool) == group_image && open.current())
+                open.current()->set_modified();
+            return;
+        }
+    }
+    if (button == button_left) {
+        const int command = tool_bar->command_at(x, y);
+        if (command >= 0) {
+            run_command(command);
+            return;
+        }
+    }
+    int command = -1;
+    const int menu = menu_bar->menu_at(SDL_Point{x, y});
+    if (menu >= 0) command = menu_bar->track(SDL_Point{x, y}, menu);
+    if (command >= 0) {
+        pointer_x = -1;
+        pointer_y = -1;
+        repaint(true);
+        run_command(command);
+        return;
+    }
+    if (tileset_tabs->click(open, x, y)) relayout();
+}
+
+void Editor::select_tool(int command) {
+    if (command == tool) return;
+    if (command == command_work_selection) canvas_view->reset_selection();
+    if (tool == command_work_selection) canvas_view->commit_float();
+    tool_bar->press_tool(command);
+    tool = command;
+}
+
+// Ctrl and the right button drag the canvas; a quit that ends the drag is
+// taken by it and does not end the program.
+void Editor::pan_loop() {
+    SDL_Event event;
+    bool primed = false;
+    while (SDL_WaitEvent(&event)) {
+        if (event.type == SDL_EVENT_MOUSE_BUTTON_UP || event.type == SDL_EVENT_QUIT) break;
+        if (event.type != SDL_EVENT_MOUSE_MOTION) continue;
+        float dx = 0;
+        float dy = 0;
+        SDL_GetRelativeMouseState(&dx, &dy);
+        if (!primed) {
+            primed = true;
+            continue;
+        }
+        // Pushed or synthetic motion carries its own movement.
+        if (dx == 0 && dy == 0) {
+            dx = event.motion.xrel;
+            dy = event.motion.yrel;
+        }
+        canvas_view->pan(int(dx), int(dy));
+        pointer_x = dx;
+        pointer_y = dy;
+        repaint(true);
+    }
+    flush_events();
+}
+
+void Editor::zoom(int direction) { canvas_view->zoom(direction); }

@@ -1,0 +1,94 @@
+#pragma once
+
+#include <SDL3/SDL.h>
+
+#include <cstdint>
+#include <memory>
+
+#include "document/tileset_list.h"
+#include "ui/rectangle.h"
+
+class Canvas_View;
+class Menu_Bar;
+class Stroke_Action;
+class Tileset_Tabs;
+class Tool_Bar;
+
+// The main editor: the open tilesets, the canvas, the menu bar and the tool
+// bar, and the main loop that turns every event into a command or a stroke.
+// The whole window is repainted before every wait for an event.
+class Editor {
+public:
+    // The window's layout: the canvas area and what surrounds it.
+    static constexpr Rectangle canvas_area{264, 64, 512, 512};
+    static constexpr Rectangle background_rects[4] = {
+        {0, 0, 264, 632}, {264, 0, 512, 64}, {264, 576, 512, 56}, {776, 0, 455, 632}};
+    static constexpr int fresh_tile_size = 24;
+
+    enum Button : uint32_t { button_none = 0, button_left = 1, button_right = 2 };
+
+    Editor();
+    ~Editor();
+    Editor(const Editor&) = delete;
+    Editor& operator=(const Editor&) = delete;
+
+    // The main loop; returns when the quit flag is set or the first tileset
+    // cannot be made.
+    void run();
+    // Everything before the first wait: the first tileset and the layout.
+    bool begin();
+    // One event routed as the main loop routes it.
+    void handle(const SDL_Event& event);
+    void repaint(bool present);
+    void relayout();
+    int execute(int command);
+    void run_command(int command);
+    void press();
+    void select_tool(int command);
+
+    bool quit_requested() const { return quit; }
+    int current_tool() const { return tool; }
+    Tileset_List& tilesets() { return open; }
+    Tileset* current() { return open.current(); }
+    Canvas_View& canvas() { return *canvas_view; }
+    Menu_Bar& menus() { return *menu_bar; }
+    Tool_Bar& tools() { return *tool_bar; }
+    Tileset_Tabs& tabs() { return *tileset_tabs; }
+    SDL_FPoint pointer() const { return SDL_FPoint{pointer_x, pointer_y}; }
+
+    // The pixel work of a tool on the canvas, or none while that tool has no
+    // canvas action of its own yet.
+    static int canvas_action(int tool, int rectangle_type = 0, int circle_type = 0);
+    void set_stroke_action(int action, Stroke_Action* stroke);
+
+private:
+    int execute_tileset_command(int command);
+    int execute_editor_command(int command);
+    void after_command(int command);
+    void show_current_tile();
+    void switch_seam(bool horizontal);
+    void pan_loop();
+    void zoom(int direction);
+    void save(bool save_as);
+    void load();
+    void export_bmp();
+    void new_from_dialog();
+    void close_current();
+    void context_info();
+    void show_unhandled(int command);
+
+    Tileset_List open;
+    bool quit = false;
+    bool ctrl = false;
+    float pointer_x = -1;
+    float pointer_y = -1;
+    uint32_t button = button_none;
+    int tool = 0;
+    std::unique_ptr<Menu_Bar> menu_bar;
+    std::unique_ptr<Tool_Bar> tool_bar;
+    std::unique_ptr<Canvas_View> canvas_view;
+    std::unique_ptr<Tileset_Tabs> tileset_tabs;
+    Stroke_Action* actions[21] = {};
+};
+
+extern Editor* g_editor;

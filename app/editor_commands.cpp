@@ -1,0 +1,231 @@
+// The single dispatcher: every key, menu entry, tool button and strip click
+// ends here as a command number.
+#include <string>
+
+#include "app/canvas_view.h"
+#include "app/commands.h"
+#include "app/debug_log.h"
+#include "app/editor.h"
+#include "app/globals.h"
+#include "app/main_window.h"
+#include "app/prompt_dialogs.h"
+#include "app/tool_bar.h"
+#include "document/transforms.h"
+#include "ui/message_box.h"
+#include "ui/options.h"
+#include "ui/ui_globals.h"
+
+int Editor::execute(int command) {
+    if (command < 0 || command >= command_count) return -1;
+    if (commands::seam_off(command)) canvas_view->end_seams();
+    int result = command;
+    if (commands::is_tool(command)) {
+        select_tool(command);
+    } else {
+        switch (command) {
+            case command_horizontal_seam_tool:
+                switch_seam(true);
+                break;
+            case command_vertical_seam_tool:
+                switch_seam(false);
+                break;
+            // Carried out already by the strip that produced them, or with no
+            // action of their own in this version.
+            case command_change_tile:
+            case command_select_tile:
+            case command_import_from_bmp:
+            case command_append_tile:
+                break;
+            case command_close:
+                close_current();
+                break;
+            case command_new:
+                new_from_dialog();
+                break;
+            case command_load:
+                load();
+                break;
+            case command_export:
+                export_bmp();
+                break;
+            case command_save_as:
+                save(true);
+                break;
+            case command_save:
+                save(false);
+                break;
+            case command_quit:
+                if (Prompt_Dialogs::confirm_quit(!open.any_modified())) quit = true;
+                break;
+            case command_statistics:
+                if (open.current()) g_message_box->show_statistics(open.current()->statistics_text());
+                break;
+            case command_options:
+                g_options->edit();
+                relayout();
+                break;
+            case command_context_info:
+                context_info();
+                break;
+            case command_about:
+                g_message_box->show_about();
+                break;
+            case command_debug_monitor:
+                g_debug_log->show(*g_main_window);
+                break;
+            case command_test:
+                g_debug_log->log("Test: %d tilesets open", open.count());
+                break;
+            default:
+                result = execute_tileset_command(command);
+                if (result < 0) {
+                    show_unhandled(command);
+                    return -1;
+                }
+                break;
+        }
+    }
+    after_command(result);
+    return result;
+}
+
+void Editor::show_unhandled(int command) {
+    const std::string text = std::string("Unhandled command ") + commands::name(command);
+    g_message_box->note(text.c_str());
+}
+
+// The tileset's own commands; -1 for those it does not handle.
+int Editor::execute_tileset_command(int command) {
+    Tileset* t = open.current();
+    if (!t) return -1;
+    Tile_Store& store = t->store();
+    switch (command) {
+        case command_next_tile:
+            store.next();
+            return command;
+        case command_previous_tile:
+            store.previous();
+            return command;
+        case command_add_new_tile:
+            store.add_tile();
+            return command;
+        case command_insert_new_tile:
+            store.insert_tile();
+            return command;
+        case command_delete_tile:
+        case command_undo_delete_tile:
+            store.delete_tile();
+            store.current_tile()->update_texture();
+            return command;
+        case command_undo_paste_tile:
+            if (store.tile_count() > 1) store.insert_tile();
+            return command;
+        default:
+            return execute_editor_command(command);
+    }
+}
+
+// Commands the tileset hands on to the editor: whole-tile transforms and the view.
+int Editor::execute_editor_command(int command) {
+    Tile* tile = canvas_view->tile();
+    auto changed = [&] {
+        tile->update_texture();
+        return command;
+    };
+    switch (command) {
+        case command_scroll_left:
+            if (!tile) return -1;
+            offset_copy(*tile, 1, 0);
+            return changed();
+        case command_scroll_right:
+            if (!tile) return -1;
+            offset_copy(*tile, -1, 0);
+            return changed();
+        case command_scroll_up:
+            if (!tile) return -1;
+            offset_copy(*tile, 0, 1);
+            return changed();
+        case command_scroll_down:
+            if (!tile) return -1;
+            offset_copy(*tile, 0, -1);
+            return changed();
+        case command_rotate:
+            if (!tile) return -1;
+            rotate(*tile);
+            return changed();
+        case command_rotate_back:
+            if (!tile) return -1;
+            rotate_back(*tile);
+            return changed();
+        case command_mirror:
+            if (!tile) return -1;
+            mirror(*tile);
+            return changed();
+        case command_flip:
+            if (!tile) return -1;
+            flip(*tile);
+            return changed();
+        case command_center_tile_on_view:
+            canvas_view->centre();
+            return command;
+        case command_zoom_tile_up:
+            zoom(1);
+            return command;
+        case command_zoom_tile_down:
+            zoom(-1);
+            return command;
+        default:
+            return -1;
+    }
+}
+
+// The tileset's bookkeeping after a command: the canvas follows the current
+// tile, and the history pen's saved copy and the selection are refreshed.
+void Editor::after_command(int command) {
+    if (command < 0 || !open.current()) return;
+    const int group = commands::group(command);
+    if (group == group_tile_list || group == group_current_tile) show_current_tile();
+    if (commands::resets_selection_after(command) && g_options && g_options->is_on(Options::clear_selection))
+        canvas_view->reset_selection();
+    if (commands::saves_copy_after(command)) canvas_view->save_copy();
+}
+
+// The seam buttons toggle: down scrolls the tile by half its size so its
+// edges meet in the middle; up scrolls it back.
+void Editor::switch_seam(bool horizontal) {
+    Tile* tile = canvas_view->tile();
+    if (!tile) return;
+    const bool down = !tool_bar->seam_down(horizontal);
+    if (!down) {
+        const int keep_h = horizontal ? -1 : canvas_view->seam_offset_h();
+        const int keep_v = horizontal ? canvas_view->seam_offset_v() : -1;
+        const int end_h = horizontal ? canvas_view->seam_offset_h() : -1;
+        const int end_v = horizontal ? -1 : canvas_view->seam_offset_v();
+        canvas_view->set_seam_offsets(end_h, end_v);
+        canvas_view->end_seams();
+        canvas_view->set_seam_offsets(keep_h, keep_v);
+        return;
+    }
+    tool_bar->set_seam(horizontal, true);
+    const int n = (horizontal ? tile->width() : tile->height()) / 2;
+    for (int i = 0; i < n; ++i) offset_copy(*tile, horizontal ? -1 : 0, horizontal ? 0 : -1);
+    tile->update_texture();
+    if (horizontal)
+        canvas_view->set_seam_offsets(n, canvas_view->seam_offset_v());
+    else
+        canvas_view->set_seam_offsets(canvas_view->seam_offset_h(), n);
+}
+
+// F1: help for the tool button under the pointer; anywhere else the
+// statistics, as it has always been.
+void Editor::context_info() {
+    const SDL_Point p = g_main_window->mouse_position();
+    const int command = tool_bar->command_at(p.x, p.y);
+    if (command >= 0) {
+        char title[128];
+        commands::caption(command, title, sizeof title);
+        g_message_box->show_message(title, commands::help(command));
+    } else if (open.current()) {
+        g_message_box->show_statistics(open.current()->statistics_text());
+    }
+}
