@@ -51,6 +51,7 @@ std::string Tileset::display_name() const { return modified ? file_path.name + "
 
 void Tileset::resize_tiles(uint32_t width, uint32_t height) {
     tile_store->resize(width, height);
+    undo_history.clear();
 }
 
 std::string Tileset::statistics_text() const {

@@ -6,6 +6,7 @@
 #include <string>
 
 #include "document/tile_store.h"
+#include "document/undo_history.h"
 
 // The path of a document split once into its parts: the file name is what
 // follows the last separator up to the first "." after it, the extension is
@@ -34,6 +35,8 @@ public:
 
     Tile_Store& store() { return *tile_store; }
     const Tile_Store& store() const { return *tile_store; }
+    Undo_History& history() { return undo_history; }
+    const Undo_History& history() const { return undo_history; }
     const File_Path& path() const { return file_path; }
     bool is_modified() const { return modified; }
     bool is_named() const { return named; }
@@ -61,8 +64,9 @@ private:
     bool modified = false;
     bool named = false;
     std::unique_ptr<Tile_Store> tile_store;
+    // Emptied by resize_tiles.
+    Undo_History undo_history;
     // Joining as their own parts are built, each owned here:
-    //   the undo history (emptied by resize_tiles),
     //   the "Tileset navigation" pane holding the tile strip at
     //     (4, window height - 28), 51 cells of 24 pixels,
     //   the map editor of (480 / tile width) x (480 / tile height) cells,

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "app/commands.h"
 #include "document/tileset_file.h"
 
 Tileset_List::~Tileset_List() { destroy_all(); }
@@ -11,7 +12,7 @@ bool Tileset_List::new_tileset(uint32_t width, uint32_t height) {
     const std::string path = "untitled" + std::to_string(untitled_counter) + ".wst";
     auto tileset = std::make_unique<Tileset>(path, width, height);
     tileset->store().add_tile();
-    // The undo history's first record, holding this tile, joins with undo.
+    tileset->history().start(tileset->store());
     open(std::move(tileset));
     ++untitled_counter;
     return true;
@@ -28,8 +29,10 @@ Tileset& Tileset_List::open(std::unique_ptr<Tileset> tileset) {
 bool Tileset_List::open_file(const std::string& path) {
     std::unique_ptr<Tile_Store> tiles = Tileset_File::read(path);
     if (!tiles) return false;
-    // The undo history's first record joins with undo.
-    open(std::make_unique<Tileset>(path, std::move(tiles)));
+    auto tileset = std::make_unique<Tileset>(path, std::move(tiles));
+    // A loaded tileset's first record is the one a click on its first tile makes.
+    tileset->history().record_if_inverse(command_select_tile, tileset->store(), nullptr);
+    open(std::move(tileset));
     return true;
 }
 

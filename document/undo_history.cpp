@@ -1,0 +1,81 @@
+#include "document/undo_history.h"
+
+#include "app/commands.h"
+#include "document/tile_store.h"
+#include "document/undo_target.h"
+
+Undo_History::Undo_History(int32_t capacity) : maximum(capacity) {}
+
+Undo_History::~Undo_History() = default;
+
+bool Undo_History::record(int command, Tile_Store& store, const Undo_Target* target) {
+    if (command < 0 || command >= command_count) return false;
+    const Tile* tile = store.current_tile();
+    if (!tile) return false;
+    const int index = store.current_index();
+    const int group = commands::group(command);
+    const int inverse = commands::inverse(command);
+    if (inverse >= 0) {
+        push(std::make_unique<ImageUndoNode>(inverse, index, *tile, nullptr));
+        return group == group_image;
+    }
+    if (command == command_work_selection) {
+        const Tile* area = target ? target->floating_area() : nullptr;
+        if (!area) return false;
+        push(std::make_unique<PasteUndoNode>(index, *area, target->floating_x(), target->floating_y()));
+        return true;
+    }
+    if (group != group_image && group != group_selection) return false;
+    const bool with_mask = target && (group == group_selection || target->has_selection());
+    const Tile* mask = with_mask ? target->selection_mask() : nullptr;
+    push(std::make_unique<ImageUndoNode>(command, index, *tile, mask));
+    return group == group_image;
+}
+
+bool Undo_History::record_if_inverse(int command, Tile_Store& store, const Undo_Target* target) {
+    if (command < 0 || command >= command_count || commands::inverse(command) < 0) return false;
+    return record(command, store, target);
+}
+
+void Undo_History::start(Tile_Store& store) {
+    const Tile* tile = store.current_tile();
+    if (!tile) return;
+    // The first record carries the "Flood fill" number, as it always has.
+    push(std::make_unique<ImageUndoNode>(command_flood_fill, store.current_index(), *tile, nullptr));
+}
+
+void Undo_History::restart(Tile_Store& store) {
+    clear();
+    start(store);
+}
+
+void Undo_History::clear() {
+    records.clear();
+    current = -1;
+}
+
+void Undo_History::push(std::unique_ptr<Undo_Node> record) {
+    // A new state after an undo drops the undone ones.
+    if (current + 1 < count()) records.erase(records.begin() + (current + 1), records.end());
+    records.push_back(std::move(record));
+    if (count() > maximum) records.erase(records.begin());
+    current = count() - 1;
+}
+
+bool Undo_History::undo(Tile_Store& store, Undo_Target& target) {
+    if (current <= 0) return false;
+    const int command = records[size_t(current)]->undo_command();
+    if (command >= 0) target.run_command(command);
+    --current;
+    records[size_t(current)]->apply(store, target);
+    return true;
+}
+
+bool Undo_History::redo(Tile_Store& store, Undo_Target& target) {
+    if (current < 0 || current + 1 >= count()) return false;
+    ++current;
+    const int command = records[size_t(current)]->redo_command();
+    if (command >= 0) target.run_command(command);
+    records[size_t(current)]->apply(store, target);
+    return true;
+}

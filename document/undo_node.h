@@ -1,0 +1,75 @@
+#pragma once
+
+#include <cstdint>
+#include <memory>
+
+class Tile;
+class Tile_Store;
+class Undo_Target;
+
+// One state of a tileset in its undo history. The undo command runs before
+// stepping back over the record, the redo command when stepping onto it.
+class Undo_Node {
+public:
+    // The redo command is the command table's inverse of the undo command.
+    Undo_Node(int32_t command, int32_t tile_index);
+    virtual ~Undo_Node() = default;
+    Undo_Node(const Undo_Node&) = delete;
+    Undo_Node& operator=(const Undo_Node&) = delete;
+
+    // Brings the tileset back to this record's state.
+    virtual void apply(Tile_Store& store, Undo_Target& target) const = 0;
+    // The record's picture with its top-left corner at (x, y).
+    virtual void draw(int x, int y) const = 0;
+
+    int32_t undo_command() const { return undo; }
+    int32_t redo_command() const { return redo; }
+    int32_t tile_index() const { return index; }
+
+protected:
+    // Goes to the record's tile when another one is current.
+    void go_to_tile(Tile_Store& store) const;
+
+    int32_t undo;
+    int32_t redo;
+    int32_t index;
+};
+
+// A copy of one tile as it was after a change, and of the selection mask
+// when there was one.
+class ImageUndoNode : public Undo_Node {
+public:
+    ImageUndoNode(int32_t command, int32_t tile_index, const Tile& tile, const Tile* mask);
+    ~ImageUndoNode() override;
+
+    void apply(Tile_Store& store, Undo_Target& target) const override;
+    // With a mask, the unselected pixels are shown faded.
+    void draw(int x, int y) const override;
+
+    const Tile& tile() const { return *image; }
+    const Tile* mask() const { return selection.get(); }
+
+    int32_t x = 0;
+    int32_t y = 0;
+
+private:
+    std::unique_ptr<Tile> image;
+    std::unique_ptr<Tile> selection;
+};
+
+// A copy of the floating pasted area, handed back to the editor on apply.
+class PasteUndoNode : public Undo_Node {
+public:
+    PasteUndoNode(int32_t tile_index, const Tile& area, int x, int y);
+    ~PasteUndoNode() override;
+
+    void apply(Tile_Store& store, Undo_Target& target) const override;
+    void draw(int x, int y) const override;
+
+    const Tile& area() const { return *floating; }
+
+private:
+    std::unique_ptr<Tile> floating;
+    int area_x;
+    int area_y;
+};
