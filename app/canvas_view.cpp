@@ -133,6 +133,11 @@ void Canvas_View::paste(const Tile& image, int x, int y) {
     pending = true;
 }
 
+void Canvas_View::replace_float(const Tile& image, int x, int y) {
+    pending = false;
+    paste(image, x, y);
+}
+
 Cell Canvas_View::cell_at(float x, float y) const {
     return Cell{floor_div(int(x) - origin_x, cell_size), floor_div(int(y) - origin_y, cell_size)};
 }

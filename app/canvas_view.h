@@ -63,6 +63,11 @@ public:
     bool float_pending() const { return pending; }
     void commit_float();
     void paste(const Tile& image, int x = 0, int y = 0);
+    // The pending floating image, or none, and its place on the tile.
+    const Tile* floating_image() const { return pending ? floating.get() : nullptr; }
+    SDL_Point floating_position() const { return SDL_Point{float_x, float_y}; }
+    // Undo puts an earlier floating image back without stamping the present one.
+    void replace_float(const Tile& image, int x, int y);
     void set_float_visible(bool on) { float_visible = on; }
 
     bool contains(float x, float y) const { return view.contains(x, y); }

@@ -5,9 +5,11 @@
 #include "app/globals.h"
 #include "app/main_window.h"
 #include "app/stroke_action.h"
+#include "app/strokes/drawing_tools.h"
 #include "app/tileset_tabs.h"
 #include "app/tool_bar.h"
 #include "app/ui_colors.h"
+#include "app/undo_control.h"
 #include "ui/backdrop.h"
 #include "ui/menu_bar.h"
 #include "ui/message_box.h"
@@ -64,6 +66,8 @@ Editor::Editor()
     };
     open.current_changed = [this](Tileset&) { show_current_tile(); };
     Backdrop::set_base(paint_editor, this);
+    drawing_tools = std::make_unique<Drawing_Tools>(*this);
+    undo_control = std::make_unique<Undo_Control>(*this);
 }
 
 Editor::~Editor() {
@@ -142,6 +146,7 @@ void Editor::repaint(bool present) {
     w.fill_rect(Rectangle{0, 632, int(w.width()), int(w.height()) - 632}, ui_colors[background_color_index]);
     menu_bar->draw(SDL_Point{int(pointer_x), int(pointer_y)});
     tool_bar->draw();
+    undo_control->draw_meter();
     tileset_tabs->draw(open);
     if (present) w.present();
 }
@@ -165,8 +170,9 @@ void Editor::show_current_tile() {
 void Editor::run_command(int command) {
     const int result = execute(command);
     if (result < 0 || !open.current()) return;
-    const int group = commands::group(result);
-    if (group == group_image || group == group_tile_list) open.current()->set_modified();
+    // Commands without an inverse that change the tile record themselves.
+    undo_control->record_if_inverse(result);
+    if (commands::group(result) == group_tile_list) open.current()->set_modified();
 }
 
 int Editor::canvas_action(int tool, int rectangle_type, int circle_type) {
@@ -200,12 +206,12 @@ void Editor::press() {
     const int x = int(pointer_x);
     const int y = int(pointer_y);
     if (canvas_view->contains(pointer_x, pointer_y)) {
-        const int action = canvas_action(tool);
+        const Tool_Settings& settings = drawing_tools->refresh();
+        const int action = canvas_action(tool, settings.rectangle_type, settings.ellipse_type);
         Stroke_Action* stroke = action >= 0 ? actions[action] : nullptr;
         if (stroke && canvas_view->tile()) {
             canvas_view->press(*stroke, int(button), pointer_x, pointer_y);
-            if (action != 20 && commands::group(tool) == group_image && open.current())
-                open.current()->set_modified();
+            if (action != 20) undo_control->record(tool);
             return;
         }
     }

@@ -9,10 +9,12 @@
 #include "ui/rectangle.h"
 
 class Canvas_View;
+class Drawing_Tools;
 class Menu_Bar;
 class Stroke_Action;
 class Tileset_Tabs;
 class Tool_Bar;
+class Undo_Control;
 
 // The main editor: the open tilesets, the canvas, the menu bar and the tool
 // bar, and the main loop that turns every event into a command or a stroke.
@@ -54,6 +56,8 @@ public:
     Menu_Bar& menus() { return *menu_bar; }
     Tool_Bar& tools() { return *tool_bar; }
     Tileset_Tabs& tabs() { return *tileset_tabs; }
+    Drawing_Tools& drawing() { return *drawing_tools; }
+    Undo_Control& undo() { return *undo_control; }
     SDL_FPoint pointer() const { return SDL_FPoint{pointer_x, pointer_y}; }
 
     // The pixel work of a tool on the canvas, or none while that tool has no
@@ -89,6 +93,8 @@ private:
     std::unique_ptr<Canvas_View> canvas_view;
     std::unique_ptr<Tileset_Tabs> tileset_tabs;
     Stroke_Action* actions[21] = {};
+    std::unique_ptr<Drawing_Tools> drawing_tools;
+    std::unique_ptr<Undo_Control> undo_control;
 };
 
 extern Editor* g_editor;

@@ -10,6 +10,7 @@
 #include "app/main_window.h"
 #include "app/prompt_dialogs.h"
 #include "app/tool_bar.h"
+#include "app/undo_control.h"
 #include "document/transforms.h"
 #include "ui/message_box.h"
 #include "ui/options.h"
@@ -120,6 +121,16 @@ int Editor::execute_tileset_command(int command) {
         case command_undo_paste_tile:
             if (store.tile_count() > 1) store.insert_tile();
             return command;
+        // Nothing to undo or redo is no fault: no message.
+        case command_undo:
+            undo_control->undo();
+            return command;
+        case command_redo:
+            undo_control->redo();
+            return command;
+        case command_view_undo_history:
+            undo_control->view();
+            return command;
         default:
             return execute_editor_command(command);
     }
@@ -165,6 +176,12 @@ int Editor::execute_editor_command(int command) {
             if (!tile) return -1;
             flip(*tile);
             return changed();
+        // The pen's history copy is taken after the command (after_command).
+        case command_save_undo_buffer:
+            return command;
+        case command_save_image_to_undo:
+            canvas_view->save_copy();
+            return command;
         case command_center_tile_on_view:
             canvas_view->centre();
             return command;

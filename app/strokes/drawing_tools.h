@@ -1,0 +1,33 @@
+#pragma once
+
+#include <memory>
+
+#include "app/strokes/brush_strokes.h"
+#include "app/strokes/dropper_stroke.h"
+#include "app/strokes/fill_stroke.h"
+#include "app/strokes/shape_stroke.h"
+#include "app/strokes/stroke_context.h"
+
+class Editor;
+
+// The painting tools' strokes, registered with the editor under their canvas
+// actions: the line, rectangles and ellipses (0 to 6), the pen (8), the
+// colorize pen (9), the dropper (11) and the fill (12).
+class Drawing_Tools {
+public:
+    explicit Drawing_Tools(Editor& editor);
+    Drawing_Tools(const Drawing_Tools&) = delete;
+    Drawing_Tools& operator=(const Drawing_Tools&) = delete;
+
+    Stroke_Context& context() { return shared; }
+    // The settings a press will use, gathered afresh.
+    const Tool_Settings& refresh();
+
+private:
+    Stroke_Context shared;
+    std::unique_ptr<Shape_Stroke> shapes[7];
+    Pen_Stroke pen{shared};
+    Colorize_Stroke colorize{shared};
+    Dropper_Stroke dropper{shared};
+    Fill_Stroke fill{shared};
+};

@@ -1,0 +1,90 @@
+#include "app/undo_control.h"
+
+#include "app/canvas_view.h"
+#include "app/editor.h"
+#include "document/tileset.h"
+#include "viewers/undo_history_viewer.h"
+#include "viewers/undo_meter.h"
+
+Undo_Control::Undo_Control(Editor& editor)
+    : editor(editor), undo_meter(std::make_unique<Undo_Meter>(meter_x, meter_y)) {}
+
+Undo_Control::~Undo_Control() = default;
+
+bool Undo_Control::record(int command) {
+    Tileset* t = editor.current();
+    if (!t) return false;
+    const bool image = t->history().record(command, t->store(), this);
+    if (image) t->set_modified();
+    return image;
+}
+
+bool Undo_Control::record_if_inverse(int command) {
+    Tileset* t = editor.current();
+    if (!t) return false;
+    const bool image = t->history().record_if_inverse(command, t->store(), this);
+    if (image) t->set_modified();
+    return image;
+}
+
+bool Undo_Control::undo() {
+    Tileset* t = editor.current();
+    if (!t || !t->history().undo(t->store(), *this)) return false;
+    t->set_modified();
+    return true;
+}
+
+bool Undo_Control::redo() {
+    Tileset* t = editor.current();
+    if (!t || !t->history().redo(t->store(), *this)) return false;
+    t->set_modified();
+    return true;
+}
+
+void Undo_Control::view() {
+    if (Tileset* t = editor.current()) show_undo_history(t->history());
+}
+
+void Undo_Control::draw_meter() {
+    Tileset* t = editor.current();
+    undo_meter->show(t ? &t->history() : nullptr);
+    undo_meter->draw();
+}
+
+const Tile* Undo_Control::selection_mask() const { return editor.canvas().selection(); }
+
+bool Undo_Control::has_selection() const { return editor.canvas().has_selection(); }
+
+const Tile* Undo_Control::floating_area() const { return editor.canvas().floating_image(); }
+
+int Undo_Control::floating_x() const { return editor.canvas().floating_position().x; }
+
+int Undo_Control::floating_y() const { return editor.canvas().floating_position().y; }
+
+void Undo_Control::run_command(int command) { editor.execute(command); }
+
+void Undo_Control::tile_changed() {
+    Tileset* t = editor.current();
+    editor.canvas().set_tile(t ? t->store().current_tile() : nullptr);
+}
+
+void Undo_Control::restore_selection(const Tile* mask) {
+    Canvas_View& view = editor.canvas();
+    Tile* selection = view.selection();
+    if (!mask || !selection || !mask->same_size(*selection)) {
+        view.reset_selection();
+        return;
+    }
+    mask->copy_into(*selection);
+    // A record of the selection tools may hold an empty mask: nothing selected.
+    bool any = false;
+    for (int i = 0; i < selection->pixel_count() && !any; ++i) {
+        const Color c = selection->pixels()[i];
+        any = c.blue == 255 && c.green == 255 && c.red == 255;
+    }
+    view.set_has_selection(any);
+}
+
+void Undo_Control::restore_floating_area(const Tile& area, int x, int y) {
+    editor.canvas().replace_float(area, x, y);
+}

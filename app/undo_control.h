@@ -1,0 +1,46 @@
+#pragma once
+
+#include <memory>
+
+#include "document/undo_target.h"
+
+class Editor;
+class Tileset;
+class Undo_Meter;
+
+// The editor's side of undo: hands strokes and commands to the current
+// tileset's history, gives that history the canvas's selection and floating
+// area, carries its undo and redo commands back to the dispatch, and shows
+// the history in the undo meter and the history viewer.
+class Undo_Control : public Undo_Target {
+public:
+    static constexpr int meter_x = 28;
+    static constexpr int meter_y = 250;
+
+    explicit Undo_Control(Editor& editor);
+    ~Undo_Control() override;
+
+    // The state after a stroke or command joins the current tileset's
+    // history; an image change marks the tileset modified.
+    bool record(int command);
+    bool record_if_inverse(int command);
+    bool undo();
+    bool redo();
+    void view();
+    void draw_meter();
+    Undo_Meter& meter() { return *undo_meter; }
+
+    const Tile* selection_mask() const override;
+    bool has_selection() const override;
+    const Tile* floating_area() const override;
+    int floating_x() const override;
+    int floating_y() const override;
+    void run_command(int command) override;
+    void tile_changed() override;
+    void restore_selection(const Tile* mask) override;
+    void restore_floating_area(const Tile& area, int x, int y) override;
+
+private:
+    Editor& editor;
+    std::unique_ptr<Undo_Meter> undo_meter;
+};

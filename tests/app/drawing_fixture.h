@@ -1,0 +1,67 @@
+#pragma once
+
+#include <gtest/gtest.h>
+
+#include <vector>
+
+#include "app/canvas_view.h"
+#include "app/commands.h"
+#include "app/editor.h"
+#include "app/globals.h"
+#include "app/strokes/drawing_tools.h"
+#include "support/headless.h"
+#include "ui/event_script.h"
+
+// The editor after start-up, with helpers that draw through the real canvas
+// loop: a press, pushed moves while the loop waits, and the release.
+class Drawing : public Headless {
+protected:
+    void SetUp() override {
+        Headless::SetUp();
+        ASSERT_TRUE(g_editor->begin());
+        drop_pending_events();
+    }
+
+    static void pump() {
+        SDL_Event e;
+        while (SDL_PollEvent(&e)) g_editor->handle(e);
+    }
+    static void key(SDL_Keycode k, SDL_Keymod mod = SDL_KMOD_NONE) {
+        push_key(k, mod);
+        pump();
+    }
+    static SDL_Point cell_centre(int tx, int ty) {
+        const Canvas_View& c = g_editor->canvas();
+        const int s = c.pixel_size();
+        return SDL_Point{c.origin().x + tx * s + s / 2, c.origin().y + ty * s + s / 2};
+    }
+    // A press at the first cell, a move to each further cell, the release at
+    // the last, with the given button.
+    static void stroke(const std::vector<SDL_Point>& cells, Uint8 button = SDL_BUTTON_LEFT) {
+        Event_Script script;
+        const Uint32 mask = SDL_BUTTON_MASK(button);
+        for (size_t i = 1; i < cells.size(); ++i) {
+            const SDL_Point p = cell_centre(cells[i].x, cells[i].y);
+            script.then([p, mask] { push_motion(p.x, p.y, mask); });
+        }
+        const SDL_Point end = cell_centre(cells.back().x, cells.back().y);
+        script.then([end, button] { push_button(end.x, end.y, false, button); });
+        const SDL_Point start = cell_centre(cells.front().x, cells.front().y);
+        push_button(start.x, start.y, true, button);
+        pump();
+        EXPECT_EQ(script.left(), 0u);
+        EXPECT_FALSE(script.ran_out());
+    }
+    static void use_tool(int tool) { g_editor->run_command(tool); }
+    static void set_colors(Color left, Color right) {
+        Stroke_Context& c = g_editor->drawing().context();
+        c.take_color(0, left);
+        c.take_color(1, right);
+    }
+    static Tile& tile() { return *g_editor->canvas().tile(); }
+    static Color on_screen(int tx, int ty) {
+        g_editor->repaint(false);
+        const SDL_Point p = cell_centre(tx, ty);
+        return read_pixel(p.x, p.y);
+    }
+};
