@@ -1,0 +1,184 @@
+// The drawing tools' worst cases: a long pen drag with a full repaint per
+// event, a flood fill along a one-pixel-wide spiral, and one undo and redo.
+#include <benchmark/benchmark.h>
+
+#include <SDL3/SDL.h>
+
+#include <unistd.h>
+
+#include <algorithm>
+#include <filesystem>
+#include <vector>
+
+#include "app/application.h"
+#include "app/canvas_view.h"
+#include "app/commands.h"
+#include "app/editor.h"
+#include "app/globals.h"
+#include "app/strokes/drawing_tools.h"
+#include "app/undo_control.h"
+#include "document/distance_grid.h"
+#include "document/painter.h"
+#include "document/tile.h"
+#include "document/tile_store.h"
+#include "document/tileset.h"
+#include "document/undo_history.h"
+#include "document/undo_target.h"
+#include "ui/backdrop.h"
+
+namespace fs = std::filesystem;
+
+namespace {
+
+// A corridor one pixel wide winding from the corner to the middle, walls
+// between its turns: the fill needs one wave level per corridor pixel.
+void make_spiral(Tile& t) {
+    const Color wall(0, 0, 0);
+    const Color open(255, 255, 255);
+    t.fill(wall);
+    int left = 0, top = 0, right = t.width() - 1, bottom = t.height() - 1;
+    while (left <= right && top <= bottom) {
+        for (int x = left; x <= right; ++x) t.set_pixel(x, top, open);
+        for (int y = top; y <= bottom; ++y) t.set_pixel(right, y, open);
+        if (top + 2 > bottom) break;
+        for (int x = right; x >= left; --x) t.set_pixel(x, bottom, open);
+        if (left + 2 > right) break;
+        for (int y = bottom; y >= top + 2; --y) t.set_pixel(left, y, open);
+        t.set_pixel(left + 1, top + 2, open);
+        left += 2, top += 2, right -= 2, bottom -= 2;
+    }
+}
+
+void BM_fill_spiral_64(benchmark::State& state) {
+    Tile source(64, 64);
+    make_spiral(source);
+    Tile work(64, 64);
+    Painter painter;
+    Distance_Grid grid;
+    for (auto _ : state) {
+        source.copy_into(work);
+        painter.fill(grid, 0, 0, Color(200, 0, 0), work, work, false);
+        benchmark::DoNotOptimize(work.pixels());
+    }
+    int deepest = 0;
+    for (int y = 0; y < 64; ++y)
+        for (int x = 0; x < 64; ++x) deepest = std::max(deepest, grid.get(x, y) < Distance_Grid::wall ? grid.get(x, y) : 0);
+    state.counters["wave_levels"] = deepest;
+}
+
+struct Quiet_Target : Undo_Target {
+    const Tile* selection_mask() const override { return nullptr; }
+    bool has_selection() const override { return false; }
+    const Tile* floating_area() const override { return nullptr; }
+    int floating_x() const override { return 0; }
+    int floating_y() const override { return 0; }
+    void run_command(int) override {}
+    void tile_changed() override {}
+    void restore_selection(const Tile*) override {}
+    void restore_floating_area(const Tile&, int, int) override {}
+};
+
+void BM_undo_redo_64(benchmark::State& state) {
+    Tile_Store store(64, 64, 256);
+    store.add_tile();
+    Undo_History history;
+    history.start(store);
+    Quiet_Target target;
+    store.current_tile()->fill(Color(1, 2, 3));
+    history.record(command_pen, store, &target);
+    for (auto _ : state) {
+        history.undo(store, target);
+        history.redo(store, target);
+    }
+    state.SetItemsProcessed(int64_t(state.iterations()) * 2);
+}
+
+// The real program on SDL's dummy driver: start-up in a scratch directory
+// holding the sprite sheet, a 64 x 64 tile at pixel size 8.
+struct Program {
+    Program() {
+        previous = fs::current_path();
+        dir = fs::temp_directory_path() / ("mosswick-bench-" + std::to_string(getpid()));
+        std::error_code ignored;
+        fs::remove_all(dir, ignored);
+        fs::create_directories(dir / "data");
+        fs::copy_file(fs::path(MOSSWICK_SOURCE_DIR) / "data" / "pool.bmp", dir / "data" / "pool.bmp");
+        fs::current_path(dir);
+        SDL_SetHint(SDL_HINT_VIDEO_DRIVER, "dummy");
+        SDL_InitSubSystem(SDL_INIT_VIDEO);
+        Application::start_up();
+        g_editor->begin();
+        g_editor->tilesets().new_tileset(64, 64);
+        g_editor->canvas().set_pixel_size(8);
+        g_editor->canvas().centre();
+        g_editor->run_command(command_pen);
+        g_editor->drawing().context().take_color(0, Color(200, 30, 30));
+    }
+    ~Program() {
+        Application::shut_down();
+        SDL_QuitSubSystem(SDL_INIT_VIDEO);
+        fs::current_path(previous);
+        std::error_code ignored;
+        fs::remove_all(dir, ignored);
+    }
+    fs::path previous;
+    fs::path dir;
+};
+
+// Feeds the stroke loop one motion per repaint and times each event.
+struct Drag {
+    static constexpr int events = 2000;
+    std::vector<uint64_t> stamps;
+    int sent = 0;
+
+    static void paint(void* self) {
+        auto* d = static_cast<Drag*>(self);
+        g_editor->repaint(false);
+        d->stamps.push_back(SDL_GetTicksNS());
+        SDL_Event e{};
+        const Canvas_View& view = g_editor->canvas();
+        if (d->sent < events) {
+            // Back and forth across the tile along a zigzag.
+            const int i = d->sent++;
+            const int cx = (i * 3) % 128 < 64 ? (i * 3) % 64 : 63 - (i * 3) % 64;
+            const int cy = (i / 7) % 64;
+            e.type = SDL_EVENT_MOUSE_MOTION;
+            e.motion.x = float(view.origin().x + cx * 8 + 4);
+            e.motion.y = float(view.origin().y + cy * 8 + 4);
+            e.motion.state = SDL_BUTTON_LMASK;
+        } else {
+            e.type = SDL_EVENT_MOUSE_BUTTON_UP;
+            e.button.button = SDL_BUTTON_LEFT;
+        }
+        SDL_PushEvent(&e);
+    }
+};
+
+void BM_pen_drag_64_px8(benchmark::State& state) {
+    Program program;
+    std::vector<double> per_event;
+    for (auto _ : state) {
+        Drag drag;
+        Backdrop::set_base(&Drag::paint, &drag);
+        const SDL_Point p = g_editor->canvas().origin();
+        SDL_Event down{};
+        down.type = SDL_EVENT_MOUSE_BUTTON_DOWN;
+        down.button.button = SDL_BUTTON_LEFT;
+        down.button.x = float(p.x + 4);
+        down.button.y = float(p.y + 4);
+        g_editor->handle(down);
+        for (size_t i = 1; i < drag.stamps.size(); ++i)
+            per_event.push_back(double(drag.stamps[i] - drag.stamps[i - 1]) / 1e6);
+        g_editor->undo().undo();
+    }
+    Backdrop::set_base(nullptr, nullptr);
+    std::sort(per_event.begin(), per_event.end());
+    state.counters["median_ms_per_event"] = per_event.empty() ? 0 : per_event[per_event.size() / 2];
+    state.counters["p95_ms_per_event"] = per_event.empty() ? 0 : per_event[per_event.size() * 95 / 100];
+}
+
+}  // namespace
+
+BENCHMARK(BM_fill_spiral_64)->Unit(benchmark::kMicrosecond);
+BENCHMARK(BM_undo_redo_64)->Unit(benchmark::kMicrosecond);
+BENCHMARK(BM_pen_drag_64_px8)->Unit(benchmark::kMillisecond)->Iterations(3);
