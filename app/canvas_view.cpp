@@ -58,10 +58,15 @@ void Canvas_View::set_checker_size(int width, int height) {
     checker_h = height > 0 ? height : 1;
 }
 
+// The tile shown before may already be gone (a closed tileset, a deleted
+// tile): it is touched only while a seam offset is on, and every command that
+// removes tiles ends the offsets first.
 void Canvas_View::set_tile(Tile* tile) {
     if (shown) end_seams();
-    const bool new_size = !shown || !tile || !shown->same_size(*tile);
+    const bool new_size = !tile || tile->width() != shown_w || tile->height() != shown_h;
     shown = tile;
+    shown_w = tile ? tile->width() : 0;
+    shown_h = tile ? tile->height() : 0;
     update_extent();
     if (new_size) {
         resize_masks();
@@ -99,7 +104,7 @@ void Canvas_View::set_seam_offsets(int horizontal, int vertical) {
 }
 
 void Canvas_View::end_seams() {
-    if (!shown) return;
+    if (!shown || (seam_h < 0 && seam_v < 0)) return;
     if (seam_h >= 0) {
         for (int i = 0; i < seam_h; ++i) offset_copy(*shown, 1, 0);
         seam_h = -1;

@@ -99,6 +99,8 @@ private:
     Color background;
     int cell_size = 10;
     Tile* shown = nullptr;
+    int shown_w = 0;
+    int shown_h = 0;
     std::unique_ptr<Tile> history;
     std::unique_ptr<Tile> mask;
     std::unique_ptr<Tile> second_mask;

@@ -1,0 +1,300 @@
+// The main editor driven through its real event routing and modal loops.
+#include "app/editor.h"
+
+#include <gtest/gtest.h>
+
+#include "app/canvas_view.h"
+#include "app/commands.h"
+#include "app/file_dialog.h"
+#include "app/globals.h"
+#include "app/main_window.h"
+#include "app/stroke_action.h"
+#include "app/tileset_tabs.h"
+#include "app/tool_bar.h"
+#include "support/headless.h"
+#include "ui/event_script.h"
+#include "ui/menu_bar.h"
+
+namespace {
+// Answers file dialogs with a fixed path and records what was asked.
+struct Scripted_Chooser {
+    int result = file_chosen;
+    std::string path;
+    int calls = 0;
+    int last_kind = -1;
+    void install() {
+        set_file_chooser([this](int kind, const std::string&, std::string& chosen) {
+            ++calls;
+            last_kind = kind;
+            chosen = path;
+            return result;
+        });
+    }
+};
+
+// Counts what the stroke loop asks of an action.
+struct Recording_Action : Stroke_Action {
+    int applies = 0;
+    Cell last_to{};
+    Cell finish_end{};
+    bool finished_dragged = false;
+    void apply(Canvas_View& view, Cell, Cell to, int) override {
+        ++applies;
+        last_to = to;
+        view.tile()->set_pixel(to.x, to.y, Color(255, 0, 0));
+    }
+    void finish(Canvas_View&, Cell, Cell end, int, bool dragged) override {
+        finish_end = end;
+        finished_dragged = dragged;
+    }
+};
+}  // namespace
+
+class EditorTest : public Headless {
+protected:
+    void SetUp() override {
+        Headless::SetUp();
+        ASSERT_TRUE(g_editor->begin());
+        drop_pending_events();
+    }
+    void TearDown() override {
+        set_file_chooser(nullptr);
+        Headless::TearDown();
+    }
+    // Hands every queued event to the editor, as its loop would.
+    static void pump() {
+        SDL_Event e;
+        while (SDL_PollEvent(&e)) g_editor->handle(e);
+    }
+    static SDL_Point cell_centre(int tx, int ty) {
+        const Canvas_View& c = g_editor->canvas();
+        const int s = c.pixel_size();
+        return SDL_Point{c.origin().x + tx * s + s / 2, c.origin().y + ty * s + s / 2};
+    }
+};
+
+TEST_F(EditorTest, StartsWithOneUntitledTilesetShownOnTheCanvas) {
+    Editor& e = *g_editor;
+    ASSERT_EQ(e.tilesets().count(), 1);
+    EXPECT_EQ(e.current()->path().full, "untitled1.wst");
+    EXPECT_STREQ(SDL_GetWindowTitle(g_main_window->window()), "Mosswick 0.88 - untitled1");
+    EXPECT_EQ(e.canvas().tile(), e.current()->store().current_tile());
+    EXPECT_EQ(e.canvas().pixel_size(), 13);  // the pixel-size setting 10, plus 3
+    e.repaint(false);
+    // The black tile sits centred in the canvas area, framed by background.
+    EXPECT_EQ(read_pixel(264 + 256, 64 + 250), Color(0, 0, 0));
+    EXPECT_EQ(read_pixel(270, 70), Color(137, 137, 137));
+}
+
+TEST_F(EditorTest, KeysFollowTheModifierOrderAndModifiersAloneDoNothing) {
+    Scripted_Chooser chooser;
+    chooser.result = file_cancelled;
+    chooser.install();
+    // Ctrl+Shift+S reads as Shift+S, which is bound to nothing: no save dialog.
+    push_key(SDLK_S, SDL_Keymod(SDL_KMOD_CTRL | SDL_KMOD_SHIFT));
+    push_key(SDLK_LCTRL, SDL_KMOD_CTRL);
+    pump();
+    EXPECT_EQ(chooser.calls, 0);
+    // Ctrl+S saves, and an unnamed tileset asks for a name.
+    push_key(SDLK_S, SDL_KMOD_CTRL);
+    pump();
+    EXPECT_EQ(chooser.calls, 1);
+    EXPECT_EQ(chooser.last_kind, file_save_tileset);
+
+    // "r" rotates, Shift+R rotates back: a marked corner travels around.
+    Tile& tile = *g_editor->canvas().tile();
+    tile.set_pixel(0, 0, Color(255, 0, 0));
+    push_key(SDLK_R);
+    pump();
+    EXPECT_EQ(tile.get_pixel(23, 0), Color(255, 0, 0));
+    push_key(SDLK_R, SDL_KMOD_SHIFT);
+    pump();
+    EXPECT_EQ(tile.get_pixel(0, 0), Color(255, 0, 0));
+    EXPECT_TRUE(g_editor->current()->is_modified());
+}
+
+TEST_F(EditorTest, EscapeThenYesQuitsAndCancelKeepsRunning) {
+    Event_Script script;
+    script.then([] { push_key(SDLK_ESCAPE); });  // the prompt's Escape cancels it
+    push_key(SDLK_ESCAPE);
+    pump();
+    EXPECT_FALSE(g_editor->quit_requested());
+
+    script.then([] { push_text_key('y'); });
+    push_key(SDLK_ESCAPE);
+    pump();
+    EXPECT_TRUE(g_editor->quit_requested());
+}
+
+TEST_F(EditorTest, TheWindowsCloseRequestAsksTheSameQuestion) {
+    Event_Script script;
+    script.then([] { push_key(SDLK_ESCAPE); });
+    push_quit();
+    pump();
+    EXPECT_FALSE(g_editor->quit_requested());
+}
+
+TEST_F(EditorTest, MiddleButtonDoesNothingAndTheStrokeLoopRunsUntilRelease) {
+    Recording_Action action;
+    g_editor->set_stroke_action(Editor::canvas_action(command_pen), &action);
+    const SDL_Point a = cell_centre(2, 3);
+    const SDL_Point b = cell_centre(5, 3);
+    push_button(a.x, a.y, true, SDL_BUTTON_MIDDLE);
+    pump();
+    EXPECT_EQ(action.applies, 0);
+
+    Event_Script script;
+    script.then([&] { push_motion(b.x, b.y, SDL_BUTTON_LMASK); }).then([&] { push_button(b.x, b.y, false); });
+    push_button(a.x, a.y, true);
+    pump();
+    EXPECT_EQ(action.applies, 2);  // at the press, then at the move
+    EXPECT_EQ(action.last_to, (Cell{5, 3}));
+    EXPECT_EQ(action.finish_end, (Cell{5, 3}));
+    EXPECT_TRUE(action.finished_dragged);
+    EXPECT_EQ(g_editor->canvas().tile()->get_pixel(2, 3), Color(255, 0, 0));
+    EXPECT_TRUE(g_editor->current()->is_modified());
+    // The tile's texture was refreshed: the painted cell shows on screen
+    // (with the pointer moved off the canvas, so no brush outline covers it).
+    push_motion(10, 600);
+    pump();
+    g_editor->repaint(false);
+    EXPECT_EQ(read_pixel(a.x, a.y), Color(255, 0, 0));
+    g_editor->set_stroke_action(Editor::canvas_action(command_pen), nullptr);
+}
+
+TEST_F(EditorTest, CtrlRightDragPansAndAQuitDuringThePanOnlyEndsIt) {
+    Canvas_View& c = g_editor->canvas();
+    const SDL_Point start = c.origin();
+    Event_Script script;
+    script.then([] {
+              SDL_Event m{};
+              m.type = SDL_EVENT_MOUSE_MOTION;
+              m.motion.xrel = 1;
+              SDL_PushEvent(&m);
+          })
+        .then([] {
+            SDL_Event m{};
+            m.type = SDL_EVENT_MOUSE_MOTION;
+            m.motion.xrel = 7;
+            m.motion.yrel = -3;
+            SDL_PushEvent(&m);
+        })
+        .then([] { push_quit(); });
+    push_key(SDLK_LCTRL, SDL_KMOD_CTRL);
+    SDL_Event down{};
+    down.type = SDL_EVENT_KEY_DOWN;
+    down.key.key = SDLK_LCTRL;
+    down.key.mod = SDL_KMOD_CTRL;
+    g_editor->handle(down);  // Ctrl held: no key-up yet
+    drop_pending_events();
+    push_button(400, 300, true, SDL_BUTTON_RIGHT);
+    pump();
+    EXPECT_FALSE(g_editor->quit_requested());
+    EXPECT_EQ(c.origin().x, start.x + 7);
+    EXPECT_EQ(c.origin().y, start.y - 3);
+}
+
+TEST_F(EditorTest, WheelZoomKeepsTheCentreAndStopsAtTheLimits) {
+    Canvas_View& c = g_editor->canvas();
+    const int centre_x = c.origin().x + c.extent_width() / 2;
+    SDL_Event wheel{};
+    wheel.type = SDL_EVENT_MOUSE_WHEEL;
+    wheel.wheel.y = 1;
+    g_editor->handle(wheel);
+    EXPECT_EQ(c.pixel_size(), 14);
+    EXPECT_NEAR(c.origin().x + c.extent_width() / 2, centre_x, 1);
+    for (int i = 0; i < 40; ++i) g_editor->handle(wheel);
+    EXPECT_EQ(c.pixel_size(), 32);
+    const SDL_Point at_top = c.origin();
+    g_editor->handle(wheel);
+    EXPECT_EQ(c.origin().x, at_top.x);
+    wheel.wheel.y = -1;
+    for (int i = 0; i < 40; ++i) g_editor->handle(wheel);
+    EXPECT_EQ(c.pixel_size(), 3);
+    wheel.wheel.y = 0;
+    g_editor->handle(wheel);
+    EXPECT_EQ(c.pixel_size(), 3);
+}
+
+TEST_F(EditorTest, MenuCommandsRunWithThePointerMovedOffTheWindow) {
+    Scripted_Chooser chooser;
+    chooser.result = file_cancelled;
+    chooser.install();
+    const Menu& file = g_editor->menus().menu(0);
+    const Rectangle save_row = file.items[4].area;  // " Save "
+    Event_Script script;
+    script.then([&] { push_click(save_row.x + 5, save_row.y + 5); });
+    push_click(file.title.area.x + 3, 5);
+    pump();
+    EXPECT_EQ(chooser.calls, 1);
+    EXPECT_EQ(g_editor->pointer().x, -1);
+    EXPECT_EQ(g_editor->pointer().y, -1);
+}
+
+TEST_F(EditorTest, SaveAfterLoadAsksForANameAndSavesUnderTheForcedExtension) {
+    Temp_Dir dir;
+    Scripted_Chooser chooser;
+    chooser.path = (dir.path / "tiles.bmp").string();
+    chooser.install();
+    g_editor->execute(command_add_new_tile);
+    g_editor->execute(command_save);
+    const std::string saved = (dir.path / "tiles.wst").string();
+    ASSERT_TRUE(std::filesystem::exists(saved));
+    EXPECT_EQ(std::filesystem::file_size(saved), 11u + 2 * 24 * 24 * 4);
+    EXPECT_EQ(g_editor->current()->path().full, saved);
+    EXPECT_FALSE(g_editor->current()->is_modified());
+
+    // A named, unmodified tileset: "Save" asks nothing and writes nothing.
+    chooser.calls = 0;
+    g_editor->execute(command_save);
+    EXPECT_EQ(chooser.calls, 0);
+
+    chooser.path = saved;
+    g_editor->execute(command_load);
+    ASSERT_EQ(g_editor->tilesets().count(), 2);
+    EXPECT_EQ(g_editor->current()->store().tile_count(), 2);
+    EXPECT_FALSE(g_editor->current()->is_named());
+    chooser.calls = 0;
+    chooser.result = file_cancelled;
+    g_editor->execute(command_save);
+    EXPECT_EQ(chooser.calls, 1);
+    EXPECT_EQ(chooser.last_kind, file_save_tileset);
+}
+
+TEST_F(EditorTest, TabsMakeTheirTilesetCurrentAndCloseFollowsTheListRules) {
+    Editor& e = *g_editor;
+    ASSERT_TRUE(e.tilesets().new_tileset(16, 16));
+    ASSERT_TRUE(e.tilesets().new_tileset(32, 32));
+    Tileset* first = &e.tilesets().at(0);
+    const Rectangle tab = e.tabs().tab_area(e.tilesets(), 0);
+    push_click(tab.x + 4, tab.y + 4);
+    pump();
+    EXPECT_EQ(e.current(), first);
+    EXPECT_EQ(e.canvas().tile()->width(), 24);
+
+    e.tilesets().make_current(e.tilesets().at(1));
+    e.execute(command_close);  // unmodified: no question
+    ASSERT_EQ(e.tilesets().count(), 2);
+    EXPECT_EQ(e.current()->path().full, "untitled3.wst");  // the one that followed
+    EXPECT_EQ(e.canvas().tile()->width(), 32);
+}
+
+TEST_F(EditorTest, UnknownCommandsSayTheyAreUnhandled) {
+    Event_Script script;
+    script.then([] {
+        // The note is up: its text is drawn; Return closes it.
+        push_key(SDLK_RETURN);
+    });
+    EXPECT_EQ(g_editor->execute(command_map_editor), -1);
+    EXPECT_EQ(script.left(), 0u);
+    EXPECT_FALSE(script.ran_out());
+}
+
+TEST(FileDialog, SaveKindsForceTheirExtensionAndOpenKindsKeepTheName) {
+    EXPECT_EQ(force_extension("tiles.bmp", file_save_tileset), "tiles.wst");
+    EXPECT_EQ(force_extension("tiles", file_save_tileset), "tiles.wst");
+    EXPECT_EQ(force_extension("my.tiles.png", file_save_bmp), "my.tiles.bmp");
+    EXPECT_EQ(force_extension("/home/a.b/tiles", file_save_tileset), "/home/a.b/tiles.wst");
+    EXPECT_EQ(force_extension("tiles.png", file_open_tileset), "tiles.png");
+    EXPECT_EQ(force_extension("tiles.png", file_open_bmp), "tiles.png");
+}
