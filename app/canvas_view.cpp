@@ -1,6 +1,7 @@
 #include "app/canvas_view.h"
 
 #include <algorithm>
+#include <cstring>
 
 #include "app/globals.h"
 #include "app/main_window.h"
@@ -21,7 +22,9 @@ bool is_selected(const Tile& m, int x, int y) {
 
 Canvas_View::Canvas_View(const Rectangle& view, Color background) : view(view), background(background) {}
 
-Canvas_View::~Canvas_View() = default;
+Canvas_View::~Canvas_View() {
+    if (picture_texture) SDL_DestroyTexture(picture_texture);
+}
 
 bool Canvas_View::set_pixel_size(int s) {
     if (s < min_pixel_size || s > max_pixel_size) return false;
@@ -147,53 +150,135 @@ Cell Canvas_View::cell_at(float x, float y) const {
     return Cell{floor_div(int(x) - origin_x, cell_size), floor_div(int(y) - origin_y, cell_size)};
 }
 
+namespace {
+inline uint32_t argb(Color c) { return 0xFF000000u | uint32_t(c.red) << 16 | uint32_t(c.green) << 8 | c.blue; }
+
+// The renderer's own blend: source over destination by the source's alpha.
+inline Color over(Color below, Color above) {
+    const int a = above.alpha;
+    auto mix = [a](int d, int s) { return uint8_t((s * a + d * (255 - a)) / 255); };
+    return Color(mix(below.red, above.red), mix(below.green, above.green), mix(below.blue, above.blue), 255);
+}
+}  // namespace
+
+// Every cell is composed in memory and the visible part of the tile goes to
+// the screen as one texture: one upload and one copy per repaint, however many
+// cells there are. The picture is the one the per-cell steps describe: the
+// checkerboard, the pixel blended over it, the grid in a contrast of the
+// pixel's colour, then a pending floating image or the veil outside the selection.
+void Canvas_View::compose_cells() {
+    const int w = shown->width();
+    const int h = shown->height();
+    for (int ty = 0; ty < h; ++ty)
+        for (int tx = 0; tx < w; ++tx) {
+            const bool light = ((tx / checker_w) + (ty / checker_h)) % 2 == 0;
+            const Color pixel = shown->get_pixel(tx, ty);
+            Color inside = over(ui_colors[light ? 19 : 18], pixel);
+            Color grid = pixel;
+            grid.alpha = 255;
+            if (grid.red < 40 && grid.green < 40 && grid.blue < 40)
+                lighten(grid, grid_contrast);
+            else
+                darken(grid, grid_contrast);
+            if (!selection_on) {
+                if (pending && float_visible && floating) {
+                    const Color f = floating->get_pixel(tx - float_x, ty - float_y);
+                    if (f.alpha != 0) {
+                        inside = over(inside, f);
+                        grid = over(grid, f);
+                    }
+                }
+            } else if (!is_selected(*mask, tx, ty)) {
+                inside = over(inside, ui_colors[1]);
+                grid = over(grid, ui_colors[1]);
+            }
+            cell_inside[size_t(ty * w + tx)] = argb(inside);
+            cell_grid[size_t(ty * w + tx)] = argb(grid);
+        }
+}
+
 void Canvas_View::draw(Main_Window& window) {
-    window.fill_rect(view, background);
-    if (!shown) return;
     const int s = cell_size;
-    // Only the tile columns and rows that meet the view are visited.
+    const int left = shown ? std::max(view.x, origin_x) : 0;
+    const int top = shown ? std::max(view.y, origin_y) : 0;
+    const int right = shown ? std::min(view.x + view.width, origin_x + extent_w) : 0;
+    const int bottom = shown ? std::min(view.y + view.height, origin_y + extent_h) : 0;
+    if (left >= right || top >= bottom) {
+        window.fill_rect(view, background);
+        return;
+    }
+    // The background shows only around the tile: the tile's own picture is opaque.
+    const int view_right = view.x + view.width;
+    const int view_bottom = view.y + view.height;
+    window.fill_rect(Rectangle{view.x, view.y, view.width, top - view.y}, background);
+    window.fill_rect(Rectangle{view.x, bottom, view.width, view_bottom - bottom}, background);
+    window.fill_rect(Rectangle{view.x, top, left - view.x, bottom - top}, background);
+    window.fill_rect(Rectangle{right, top, view_right - right, bottom - top}, background);
+
+    const size_t cells = size_t(shown->width() * shown->height());
+    if (cell_inside.size() < cells) {  // grows with the largest tile seen, not per repaint
+        cell_inside.resize(cells);
+        cell_grid.resize(cells);
+    }
+    if (picture.empty()) picture.resize(size_t(view.width) * size_t(view.height));
+    if (!picture_texture) {
+        picture_texture = SDL_CreateTexture(window.renderer(), SDL_PIXELFORMAT_ARGB8888, SDL_TEXTUREACCESS_STREAMING,
+                                            view.width, view.height);
+        SDL_SetTextureBlendMode(picture_texture, SDL_BLENDMODE_NONE);
+        SDL_SetTextureScaleMode(picture_texture, SDL_SCALEMODE_NEAREST);
+    }
+    compose_cells();
+
+    // One screen row is composed per run of identical rows: each tile row is
+    // s - 1 rows of cell insides and one row of grid, and copies do the rest.
+    const int w = shown->width();
+    const size_t stride = size_t(view.width);
+    const size_t span = size_t(right - left);
+    for (int y = top; y < bottom;) {
+        const int ty = (y - origin_y) / s;
+        const int iy = (y - origin_y) % s;
+        const bool grid_row = iy == s - 1;
+        const int run = std::min(bottom - y, grid_row ? 1 : s - 1 - iy);
+        const uint32_t* inside = &cell_inside[size_t(ty * w)];
+        const uint32_t* grid = &cell_grid[size_t(ty * w)];
+        uint32_t* row = &picture[size_t(y - view.y) * stride + size_t(left - view.x)];
+        uint32_t* out = row;
+        int tx = (left - origin_x) / s;
+        int ix = (left - origin_x) % s;
+        for (int x = left; x < right; ++x) {
+            *out++ = (grid_row || ix == s - 1) ? grid[tx] : inside[tx];
+            if (++ix == s) {
+                ix = 0;
+                ++tx;
+            }
+        }
+        for (int r = 1; r < run; ++r) std::memcpy(row + size_t(r) * stride, row, span * sizeof(uint32_t));
+        y += run;
+    }
+    const SDL_Rect area{left - view.x, top - view.y, right - left, bottom - top};
+    const uint32_t* first = &picture[size_t(area.y) * size_t(view.width) + size_t(area.x)];
+    SDL_UpdateTexture(picture_texture, &area, first, view.width * 4);
+    const SDL_FRect from{float(area.x), float(area.y), float(area.w), float(area.h)};
+    const SDL_FRect to{float(left), float(top), float(area.w), float(area.h)};
+    SDL_RenderTexture(window.renderer(), picture_texture, &from, &to);
+
+    // Edge pieces only where a selection or a seam needs them.
+    if (!selection_on && !second_on && seam_h < 0 && seam_v < 0) return;
+    SDL_Rect clip{view.x, view.y, view.width, view.height};
+    SDL_SetRenderClipRect(window.renderer(), &clip);
     const int first_x = std::max(0, floor_div(view.x - origin_x, s));
     const int first_y = std::max(0, floor_div(view.y - origin_y, s));
     const int last_x = std::min(shown->width() - 1, floor_div(view.x + view.width - 1 - origin_x, s));
     const int last_y = std::min(shown->height() - 1, floor_div(view.y + view.height - 1 - origin_y, s));
-    if (first_x > last_x || first_y > last_y) return;
-    SDL_Rect clip{view.x, view.y, view.width, view.height};
-    SDL_SetRenderClipRect(window.renderer(), &clip);
     for (int ty = first_y; ty <= last_y; ++ty)
-        for (int tx = first_x; tx <= last_x; ++tx) draw_cell(window, tx, ty, origin_x + tx * s, origin_y + ty * s);
+        for (int tx = first_x; tx <= last_x; ++tx) draw_cell_marks(window, tx, ty, origin_x + tx * s, origin_y + ty * s);
     SDL_SetRenderClipRect(window.renderer(), nullptr);
 }
 
-void Canvas_View::draw_cell(Main_Window& window, int tx, int ty, int px, int py) {
+void Canvas_View::draw_cell_marks(Main_Window& window, int tx, int ty, int px, int py) {
     const int s = cell_size;
-    const bool light = ((tx / checker_w) + (ty / checker_h)) % 2 == 0;
-    window.fill_rect(Rectangle{px, py, s, s}, ui_colors[light ? 19 : 18]);
-    const Color pixel = shown->get_pixel(tx, ty);
-    window.fill_rect(Rectangle{px, py, s, s}, pixel);
-
-    // The grid is a contrast of each pixel's own colour, drawn opaque so that
-    // it shows over transparent pixels too.
-    Color grid = pixel;
-    grid.alpha = 255;
-    if (grid.red < 40 && grid.green < 40 && grid.blue < 40)
-        lighten(grid, grid_contrast);
-    else
-        darken(grid, grid_contrast);
-    window.fill_rect(Rectangle{px, py + s - 1, s, 1}, grid);
-    window.fill_rect(Rectangle{px + s - 1, py, 1, s - 1}, grid);
-
-    if (!selection_on) {
-        if (pending && float_visible && floating) {
-            const Color f = floating->get_pixel(tx - float_x, ty - float_y);
-            if (f.alpha != 0) window.fill_rect(Rectangle{px, py, s, s}, f);
-        }
-    } else if (is_selected(*mask, tx, ty)) {
-        draw_edges(window, *mask, tx, ty, px, py, false);
-    } else {
-        window.fill_rect(Rectangle{px, py, s, s}, ui_colors[1]);
-    }
+    if (selection_on && is_selected(*mask, tx, ty)) draw_edges(window, *mask, tx, ty, px, py, false);
     if (second_on && is_selected(*second_mask, tx, ty)) draw_edges(window, *second_mask, tx, ty, px, py, true);
-
     if (seam_h >= 0 && tx == shown->width() / 2) window.edge_v(Edge_Kind::seam, px, py, s, ty % 2 == 1);
     if (seam_v >= 0 && ty == shown->height() / 2) window.edge_h(Edge_Kind::seam, px, py, s, tx % 2 == 1);
 }

@@ -4,6 +4,7 @@
 
 #include <functional>
 #include <memory>
+#include <vector>
 
 #include "app/stroke_action.h"
 #include "color/color.h"
@@ -89,7 +90,8 @@ public:
     std::function<void(bool horizontal)> seam_released;
 
 private:
-    void draw_cell(Main_Window& window, int tx, int ty, int px, int py);
+    void compose_cells();
+    void draw_cell_marks(Main_Window& window, int tx, int ty, int px, int py);
     void draw_edges(Main_Window& window, const Tile& m, int tx, int ty, int px, int py, bool active);
     void keep_pointer_on_tile(float x, float y);
     void resize_masks();
@@ -120,4 +122,9 @@ private:
     int origin_y = 0;
     int extent_w = 0;
     int extent_h = 0;
+    // The composed picture of the visible cells, kept between repaints.
+    std::vector<uint32_t> cell_inside;
+    std::vector<uint32_t> cell_grid;
+    std::vector<uint32_t> picture;
+    SDL_Texture* picture_texture = nullptr;
 };
