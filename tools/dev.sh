@@ -12,7 +12,7 @@ packages=(
     libgtest-dev libgmock-dev googletest libbenchmark-dev
     libx11-dev libxext-dev libxrandr-dev libxcursor-dev libxi-dev libxfixes-dev
     libxss-dev libxkbcommon-dev libdbus-1-dev
-    xvfb xauth xdotool imagemagick
+    xvfb xauth xdotool imagemagick zenity
 )
 
 install_missing() {
