@@ -8,11 +8,13 @@
 #include "app/file_dialog.h"
 #include "app/globals.h"
 #include "app/main_window.h"
+#include "app/prompt_dialogs.h"
 #include "app/stroke_action.h"
 #include "app/tileset_tabs.h"
 #include "app/tool_bar.h"
 #include "support/headless.h"
 #include "ui/event_script.h"
+#include "ui/dialog.h"
 #include "ui/menu_bar.h"
 
 namespace {
@@ -297,4 +299,44 @@ TEST(FileDialog, SaveKindsForceTheirExtensionAndOpenKindsKeepTheName) {
     EXPECT_EQ(force_extension("/home/a.b/tiles", file_save_tileset), "/home/a.b/tiles.wst");
     EXPECT_EQ(force_extension("tiles.png", file_open_tileset), "tiles.png");
     EXPECT_EQ(force_extension("tiles.png", file_open_bmp), "tiles.png");
+}
+
+TEST_F(EditorTest, NewTilesetDialogKeepsItsValuesAndCanResizeInstead) {
+    Dialog& dialog = g_prompt_dialogs->new_tileset();
+    auto click_item = [&dialog](uint32_t id) {
+        const Rectangle r = dialog.find(id)->area;
+        push_click(r.x + r.width / 2, r.y + r.height / 2);
+    };
+    Event_Script script;
+    script.then([&] {
+              click_item(0);  // width "Less" twice
+              click_item(0);
+          })
+        .then([] { push_key(SDLK_RETURN); });
+    g_editor->execute(command_new);
+    ASSERT_EQ(g_editor->tilesets().count(), 2);
+    EXPECT_EQ(g_editor->current()->path().full, "untitled2.wst");
+    EXPECT_EQ(g_editor->canvas().tile()->width(), 22);
+    EXPECT_EQ(g_editor->canvas().tile()->height(), 24);
+
+    // The second time the dialog offers 22 again; "Keep and resize" resizes
+    // the current tileset instead of making a new one.
+    int offered = 0;
+    script.then([&] {
+              offered = dialog.value_of(Prompt_Dialogs::width_id);
+              click_item(0);
+              click_item(Prompt_Dialogs::keep_id);
+          })
+        .then([] { push_key(SDLK_RETURN); });
+    g_editor->execute(command_new);
+    EXPECT_EQ(offered, 22);
+    EXPECT_EQ(g_editor->tilesets().count(), 2);
+    EXPECT_EQ(g_editor->canvas().tile()->width(), 21);
+    EXPECT_EQ(g_editor->current()->store().tile_width(), 21u);
+
+    // Escape leaves everything as it was.
+    script.then([] { push_key(SDLK_ESCAPE); });
+    g_editor->execute(command_new);
+    EXPECT_EQ(g_editor->tilesets().count(), 2);
+    EXPECT_FALSE(script.ran_out());
 }
