@@ -340,3 +340,37 @@ TEST_F(EditorTest, NewTilesetDialogKeepsItsValuesAndCanResizeInstead) {
     EXPECT_EQ(g_editor->tilesets().count(), 2);
     EXPECT_FALSE(script.ran_out());
 }
+
+TEST_F(EditorTest, ExportWritesASixteenBySixteenSheetAfterThePreview) {
+    Temp_Dir dir;
+    Scripted_Chooser chooser;
+    chooser.path = (dir.path / "sheet.png").string();
+    chooser.install();
+    Tile_Store& store = g_editor->current()->store();
+    store.current_tile()->fill(Color(10, 200, 30));
+    store.add_tile();
+    store.current_tile()->fill(Color(0, 0, 0, 0));
+    store.current_tile()->set_pixel(5, 6, Color(250, 1, 2));
+
+    Event_Script script;
+    script.then([] { push_key(SDLK_ESCAPE); });  // the preview's Escape stops the export
+    g_editor->execute(command_export);
+    EXPECT_EQ(chooser.calls, 0);
+
+    script.then([] { push_key(SDLK_RETURN); });
+    g_editor->execute(command_export);
+    EXPECT_EQ(chooser.last_kind, file_save_bmp);
+    const std::string written = (dir.path / "sheet.bmp").string();
+    SDL_Surface* sheet = SDL_LoadBMP(written.c_str());
+    ASSERT_NE(sheet, nullptr) << "nothing written at " << written;
+    EXPECT_EQ(sheet->w, 16 * 24);
+    EXPECT_EQ(sheet->h, 16 * 24);
+    Uint8 r, g, b, a;
+    SDL_ReadSurfacePixel(sheet, 3, 3, &r, &g, &b, &a);
+    EXPECT_EQ((Color(r, g, b)), Color(10, 200, 30));
+    SDL_ReadSurfacePixel(sheet, 24 + 5, 6, &r, &g, &b, &a);
+    EXPECT_EQ((Color(r, g, b)), Color(250, 1, 2));
+    SDL_ReadSurfacePixel(sheet, 15 * 24 + 1, 15 * 24 + 1, &r, &g, &b, &a);
+    EXPECT_EQ((Color(r, g, b, a)), Color(0, 0, 0));  // an empty slot holds a blank tile
+    SDL_DestroySurface(sheet);
+}
