@@ -374,3 +374,29 @@ TEST_F(EditorTest, ExportWritesASixteenBySixteenSheetAfterThePreview) {
     EXPECT_EQ((Color(r, g, b, a)), Color(0, 0, 0));  // an empty slot holds a blank tile
     SDL_DestroySurface(sheet);
 }
+
+TEST_F(EditorTest, ThePositionReadoutFollowsThePointerOverTheTileOnly) {
+    const SDL_Point p = cell_centre(3, 17);
+    push_motion(p.x, p.y);
+    pump();
+    const Position_Readout& readout = g_editor->position();
+    ASSERT_TRUE(readout.visible());
+    EXPECT_EQ(readout.pixel_x(), 3);
+    EXPECT_EQ(readout.pixel_y(), 17);
+    EXPECT_EQ(readout.tile_index(), 0);
+    g_editor->repaint(false);
+    int ink = 0;
+    for (int y = Position_Readout::y; y < Position_Readout::y + 46; ++y)
+        for (int x = Position_Readout::x; x < Position_Readout::x + 120; ++x)
+            ink += read_pixel(x, y) != Color(137, 137, 137);
+    EXPECT_GT(ink, 50);
+
+    // Inside the canvas but beside the tile, and outside the canvas: hidden.
+    push_motion(g_editor->canvas().origin().x - 5, p.y);
+    pump();
+    EXPECT_FALSE(readout.visible());
+    push_motion(p.x, p.y);
+    push_motion(1000, 600);
+    pump();
+    EXPECT_FALSE(readout.visible());
+}
