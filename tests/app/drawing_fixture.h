@@ -8,8 +8,10 @@
 #include "app/commands.h"
 #include "app/editor.h"
 #include "app/globals.h"
+#include "app/main_window.h"
 #include "app/strokes/drawing_tools.h"
 #include "support/headless.h"
+#include "ui/backdrop.h"
 #include "ui/event_script.h"
 
 // The editor after start-up, with helpers that draw through the real canvas
@@ -19,6 +21,12 @@ protected:
     void SetUp() override {
         Headless::SetUp();
         ASSERT_TRUE(g_editor->begin());
+        // The stroke loop repaints through the backdrop, where the script
+        // pushes the next events.
+        g_editor->canvas().repaint = [] {
+            Backdrop::paint();
+            g_main_window->present();
+        };
         drop_pending_events();
     }
 
