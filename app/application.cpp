@@ -12,7 +12,9 @@
 #include "app/main_window.h"
 #include "app/prompt_dialogs.h"
 #include "app/sdl_tile_texture.h"
+#include "color/color_database.h"
 #include "color/palette.h"
+#include "document/tool_options.h"
 #include "document/tile_texture.h"
 #include "ui/fonts.h"
 #include "ui/message_box.h"
@@ -45,7 +47,10 @@ void Application::start_up() {
     set_tile_texture_maker(make_sdl_tile_texture);
     g_palette = new Palette();
     g_message_box = new Message_Box();
+    // The brush pad store joins the pane here, read from "brushpad.dat".
+    g_tool_options = new Tool_Options_Pane(816, 32);
     Data_Directory::leave();
+    g_color_database = new Color_Database();
     g_prompt_dialogs = new Prompt_Dialogs();
     g_editor = new Editor();
     g_options = new Options();
@@ -63,9 +68,13 @@ void Application::shut_down() {
     g_editor = nullptr;
     delete g_prompt_dialogs;
     g_prompt_dialogs = nullptr;
+    delete g_color_database;
+    g_color_database = nullptr;
     Data_Directory::enter(Data_Directory::data);
     delete g_palette;
     g_palette = nullptr;
+    delete g_tool_options;
+    g_tool_options = nullptr;
     Data_Directory::leave();
     delete g_message_box;
     g_message_box = nullptr;

@@ -1,5 +1,7 @@
 #include "app/editor.h"
 
+#include <algorithm>
+
 #include "app/canvas_view.h"
 #include "app/commands.h"
 #include "app/globals.h"
@@ -7,11 +9,15 @@
 #include "app/stroke_action.h"
 #include "app/strokes/drawing_tools.h"
 #include "app/tileset_tabs.h"
+#include "app/tool_options_link.h"
 #include "app/tool_bar.h"
 #include "app/ui_colors.h"
 #include "app/undo_control.h"
+#include "color/color_editor.h"
+#include "document/tool_options.h"
 #include "ui/backdrop.h"
 #include "ui/menu_bar.h"
+#include "ui/pane.h"
 #include "ui/message_box.h"
 #include "ui/options.h"
 #include "ui/ui_globals.h"
@@ -45,6 +51,22 @@ SDL_Keycode key_code(SDL_Keycode key) {
     }
 }
 
+// Fills the rectangle except where it meets the hole.
+void fill_around(Main_Window& w, const Rectangle& r, const Rectangle& hole, Color c) {
+    const int left = std::max(r.x, hole.x);
+    const int top = std::max(r.y, hole.y);
+    const int right = std::min(r.x + r.width, hole.x + hole.width);
+    const int bottom = std::min(r.y + r.height, hole.y + hole.height);
+    if (left >= right || top >= bottom) {
+        w.fill_rect(r, c);
+        return;
+    }
+    w.fill_rect(Rectangle{r.x, r.y, r.width, top - r.y}, c);
+    w.fill_rect(Rectangle{r.x, bottom, r.width, r.y + r.height - bottom}, c);
+    w.fill_rect(Rectangle{r.x, top, left - r.x, bottom - top}, c);
+    w.fill_rect(Rectangle{right, top, r.x + r.width - right, bottom - top}, c);
+}
+
 uint32_t button_code(Uint8 sdl_button) {
     if (sdl_button == SDL_BUTTON_LEFT) return Editor::button_left;
     if (sdl_button == SDL_BUTTON_RIGHT) return Editor::button_right;
@@ -57,8 +79,12 @@ Editor::Editor()
       tool_bar(std::make_unique<Tool_Bar>(0, 32, 0)),
       canvas_view(std::make_unique<Canvas_View>(canvas_area, ui_colors[background_color_index])),
       tileset_tabs(std::make_unique<Tileset_Tabs>(Rectangle{264, 30, 512, 30})) {
-    menu_bar->redraw = [this] { repaint(false); };
-    canvas_view->repaint = [this] { repaint(true); };
+    // Nested loops paint through the backdrop, whose base is this editor.
+    menu_bar->redraw = [] { Backdrop::paint(); };
+    canvas_view->repaint = [] {
+        Backdrop::paint();
+        g_main_window->present();
+    };
     canvas_view->seam_released = [this](bool horizontal) { tool_bar->set_seam(horizontal, false); };
     open.set_window_title = [](const std::string& name) { g_main_window->set_title(name); };
     open.confirm_close = [] {
@@ -67,6 +93,8 @@ Editor::Editor()
     open.current_changed = [this](Tileset&) { show_current_tile(); };
     Backdrop::set_base(paint_editor, this);
     drawing_tools = std::make_unique<Drawing_Tools>(*this);
+    link_tool_options(drawing_tools->context());
+    color_editor = std::make_unique<Color_Editor>();
     undo_control = std::make_unique<Undo_Control>(*this);
 }
 
@@ -74,6 +102,7 @@ Editor::~Editor() {
     Backdrop::set_base(nullptr, nullptr);
     tool_bar.reset();
     menu_bar.reset();
+    color_editor.reset();
     canvas_view.reset();
     open.destroy_all();
 }
@@ -99,6 +128,9 @@ void Editor::handle(const SDL_Event& event) {
         case SDL_EVENT_MOUSE_MOTION:
             pointer_x = event.motion.x;
             pointer_y = event.motion.y;
+            if (!canvas_view->contains(pointer_x, pointer_y) && g_tool_options)
+                g_tool_options->hover(int(pointer_x), int(pointer_y));
+            follow_pointer();
             break;
         case SDL_EVENT_MOUSE_BUTTON_DOWN:
             pointer_x = event.button.x;
@@ -137,17 +169,28 @@ void Editor::handle(const SDL_Event& event) {
 
 void Editor::repaint(bool present) {
     Main_Window& w = *g_main_window;
-    // The layout leaves the window's last column to nobody: clear it all.
-    w.clear();
     canvas_view->draw(w);
     // The backgrounds frame the canvas before the panes are drawn over them,
     // so nothing to the right of the canvas is painted over.
-    for (const Rectangle& r : background_rects) w.fill_rect(r, ui_colors[background_color_index]);
+    // Where the tool options pane's opaque body lies over the right column the
+    // background would only be painted over: it is left out there.
+    Rectangle body{};
+    if (g_tool_options) {
+        body = g_tool_options->outer_area();
+        body.y += Pane::header_height;
+        body.height -= Pane::header_height;
+    }
+    for (const Rectangle& r : background_rects) fill_around(w, r, body, ui_colors[background_color_index]);
+    // The rows below 632 and the window's last column belong to no rectangle.
     w.fill_rect(Rectangle{0, 632, int(w.width()), int(w.height()) - 632}, ui_colors[background_color_index]);
+    w.fill_rect(Rectangle{1231, 0, int(w.width()) - 1231, 632}, ui_colors[background_color_index]);
+    if (g_tool_options) g_tool_options->draw();
     menu_bar->draw(SDL_Point{int(pointer_x), int(pointer_y)});
     tool_bar->draw();
     undo_control->draw_meter();
     tileset_tabs->draw(open);
+    readout.draw();
+    if (g_tool_options) g_tool_options->draw_overlays(*canvas_view, pointer_x, pointer_y);
     if (present) w.present();
 }
 
@@ -215,6 +258,9 @@ void Editor::press() {
             return;
         }
     }
+    const int pane_button = button == button_right ? 1 : 0;
+    if (g_tool_options && g_tool_options->outer_area().contains(x, y) && g_tool_options->click(pane_button, x, y))
+        return;
     if (button == button_left) {
         const int command = tool_bar->command_at(x, y);
         if (command >= 0) {
@@ -233,6 +279,14 @@ void Editor::press() {
         return;
     }
     if (tileset_tabs->click(open, x, y)) relayout();
+    // The colour panes and the tile colour button stand outside the pane's
+    // own rectangle, in the left column.
+    if (!g_tool_options) return;
+    const int pane_command = g_tool_options->command_at(x, y);
+    if (pane_command >= 0 && button == button_left)
+        run_command(pane_command);
+    else if (!g_tool_options->outer_area().contains(x, y))
+        g_tool_options->click(pane_button, x, y);
 }
 
 void Editor::select_tool(int command) {
@@ -241,6 +295,8 @@ void Editor::select_tool(int command) {
     if (tool == command_work_selection) canvas_view->commit_float();
     tool_bar->press_tool(command);
     tool = command;
+    // The pane keeps the current and the previous tool for everyone else.
+    if (g_tool_options) g_tool_options->set_tool(command);
 }
 
 // Ctrl and the right button drag the canvas; a quit that ends the drag is
@@ -248,7 +304,10 @@ void Editor::select_tool(int command) {
 void Editor::pan_loop() {
     SDL_Event event;
     bool primed = false;
-    while (SDL_WaitEvent(&event)) {
+    for (;;) {
+        Backdrop::paint();
+        g_main_window->present();
+        if (!SDL_WaitEvent(&event)) break;
         if (event.type == SDL_EVENT_MOUSE_BUTTON_UP || event.type == SDL_EVENT_QUIT) break;
         if (event.type != SDL_EVENT_MOUSE_MOTION) continue;
         float dx = 0;
@@ -266,9 +325,18 @@ void Editor::pan_loop() {
         canvas_view->pan(int(dx), int(dy));
         pointer_x = dx;
         pointer_y = dy;
-        repaint(true);
     }
     flush_events();
+}
+
+// Over the tile the readout follows the pointer; elsewhere it is hidden.
+void Editor::follow_pointer() {
+    const Tile* tile = canvas_view->tile();
+    const Cell cell = canvas_view->cell_at(pointer_x, pointer_y);
+    if (tile && canvas_view->contains(pointer_x, pointer_y) && !tile->is_outside(cell.x, cell.y))
+        readout.show(cell.x, cell.y, open.current()->store().current_index());
+    else
+        readout.hide();
 }
 
 void Editor::zoom(int direction) { canvas_view->zoom(direction); }

@@ -5,10 +5,12 @@
 #include <cstdint>
 #include <memory>
 
+#include "app/position_readout.h"
 #include "document/tileset_list.h"
 #include "ui/rectangle.h"
 
 class Canvas_View;
+class Color_Editor;
 class Drawing_Tools;
 class Menu_Bar;
 class Stroke_Action;
@@ -56,8 +58,10 @@ public:
     Menu_Bar& menus() { return *menu_bar; }
     Tool_Bar& tools() { return *tool_bar; }
     Tileset_Tabs& tabs() { return *tileset_tabs; }
+    Color_Editor& colors() { return *color_editor; }
     Drawing_Tools& drawing() { return *drawing_tools; }
     Undo_Control& undo() { return *undo_control; }
+    const Position_Readout& position() const { return readout; }
     SDL_FPoint pointer() const { return SDL_FPoint{pointer_x, pointer_y}; }
 
     // The pixel work of a tool on the canvas, or none while that tool has no
@@ -73,6 +77,7 @@ private:
     void switch_seam(bool horizontal);
     void pan_loop();
     void zoom(int direction);
+    void follow_pointer();
     void save(bool save_as);
     void load();
     void export_bmp();
@@ -92,9 +97,11 @@ private:
     std::unique_ptr<Tool_Bar> tool_bar;
     std::unique_ptr<Canvas_View> canvas_view;
     std::unique_ptr<Tileset_Tabs> tileset_tabs;
+    Position_Readout readout;
     Stroke_Action* actions[21] = {};
     std::unique_ptr<Drawing_Tools> drawing_tools;
     std::unique_ptr<Undo_Control> undo_control;
+    std::unique_ptr<Color_Editor> color_editor;
 };
 
 extern Editor* g_editor;

@@ -11,6 +11,9 @@
 #include "app/prompt_dialogs.h"
 #include "app/tool_bar.h"
 #include "app/undo_control.h"
+#include "color/color_editor.h"
+#include "document/edit_hsv_dialog.h"
+#include "document/tool_options.h"
 #include "document/transforms.h"
 #include "ui/message_box.h"
 #include "ui/options.h"
@@ -73,6 +76,48 @@ int Editor::execute(int command) {
                 break;
             case command_debug_monitor:
                 g_debug_log->show(*g_main_window);
+                break;
+            case command_swap_tool_colors:
+                g_tool_options->color_tools().swap_colors();
+                break;
+            case command_select_brush_size_1:
+            case command_select_brush_size_2:
+            case command_select_brush_size_3:
+            case command_select_brush_size_4:
+            case command_select_brush_size_5:
+            case command_select_brush_size_6:
+                g_tool_options->select_brush_size(command - command_select_brush_size_1 + 1);
+                break;
+            // The tool bar's filled shapes: the shape tool with its "Filled" type.
+            case command_filled_rectangle:
+                g_tool_options->set_rectangle_type(1);
+                select_tool(command_rectangle);
+                break;
+            case command_filled_circle:
+                g_tool_options->set_ellipse_type(1);
+                select_tool(command_circle);
+                break;
+            case command_move_to_pad:
+                g_message_box->note(current_tool() == command_stamp_brush
+                                        ? "Failed to add brush to pad. Either it's already there,\rthere is no current brush or the pad is full."
+                                        : "Select stamp brush tool to copy the current brush to the pad.");
+                result = -1;
+                break;
+            case command_delete_brush:
+                g_message_box->note(current_tool() == command_stamp_brush
+                                        ? "There is no brush selected to delete from the pad."
+                                        : "Select stamp brush tool to delete the current brush.");
+                result = -1;
+                break;
+            case command_color_editor:
+                color_editor->run(g_tool_options->tool_color(0));
+                break;
+            case command_adjust_hsv:
+                // An image change with no inverse: it records itself.
+                if (canvas_view->tile() && edit_hsv(*canvas_view->tile()))
+                    undo_control->record(command);
+                else
+                    result = -1;
                 break;
             case command_test:
                 g_debug_log->log("Test: %d tilesets open", open.count());

@@ -1,0 +1,26 @@
+#include "color/swatch.h"
+
+#include <vector>
+
+#include "app/globals.h"
+#include "app/main_window.h"
+#include "app/ui_colors.h"
+
+Swatch::Swatch(int width, int height) {
+    std::vector<Color> pixels(size_t(width * height));
+    for (int y = 0; y < height; ++y)
+        for (int x = 0; x < width; ++x)
+            pixels[size_t(y * width + x)] = ((x / square + y / square) % 2) ? ui_colors[18] : ui_colors[19];
+    board.reset(Texture::from_pixels(g_main_window->renderer(), pixels.data(), width, height));
+}
+
+Swatch::~Swatch() = default;
+
+void Swatch::draw(const Rectangle& rect, Color c) {
+    const float w = float(rect.width < board->width() ? rect.width : board->width());
+    const float h = float(rect.height < board->height() ? rect.height : board->height());
+    board->source = SDL_FRect{0, 0, w, h};
+    board->destination = SDL_FRect{float(rect.x), float(rect.y), w, h};
+    board->draw();
+    g_main_window->fill_rect(rect, c);
+}

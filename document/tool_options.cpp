@@ -1,0 +1,289 @@
+#include "document/tool_options.h"
+
+#include "app/canvas_view.h"
+#include "app/commands.h"
+#include "app/globals.h"
+#include "app/main_window.h"
+#include "document/color_readout.h"
+#include "ui/options.h"
+#include "ui/ui_globals.h"
+#include "ui/info_panes.h"
+#include "ui/setting_panes.h"
+#include "ui/text_pane.h"
+#include "ui/text_writer.h"
+#include "ui/textlist_dialog_item.h"
+#include "ui/ui_style.h"
+
+Tool_Options_Pane* g_tool_options = nullptr;
+
+using namespace tool_pages;
+
+namespace {
+constexpr Rectangle row_rect{0, 0, Tool_Options_Pane::row_width, Tool_Options_Pane::row_height};
+constexpr const char* shape_types = "Outline,Filled,Filled & Outline$";
+constexpr const char* adjust_label = "Adjust HSV";
+
+int swatch_stack_height() {
+    return 2 * (Tool_Color::body_height + Pane::header_height) + Color_Handles::body_height + Pane::header_height +
+           2 * Color_Tools::gap;
+}
+
+bool is_dialog_row(int id) {
+    return id != row_color_readout && id != row_location && id != row_size && id != row_radius && id != row_length &&
+           id != row_degrees && id != row_offset;
+}
+}  // namespace
+
+Tool_Options_Pane::Tool_Options_Pane(int x, int y) : Pane(Rectangle{x, y, width, height}, pages[0].name) {
+    const int bottom = client.y + client.height;
+    colors = std::make_unique<Color_Tools>(SDL_Point{client.x, bottom - swatch_stack_height()}, mixers_corner);
+    colors->color_changed = [this](int index, Color c) { tool_color_changed(index, c); };
+    g_color_tools = colors.get();
+    brush_selector = std::make_unique<Brush_Selector>();
+
+    auto readout = std::make_unique<Color_Readout>(row_rect, "Color");
+    color_row = readout.get();
+    rows[row_color_readout] = std::move(readout);
+    rows[row_previous_tool] = std::make_unique<Tick_Pane>(row_rect, "Mode", "Select previous tool", false);
+    rows[row_colorize_type] = std::make_unique<Option_Pane>(row_rect, "Type", "Linear,Luma$", 0);
+    auto pair = [&](int id, const char* title, Location_Info*& keep) {
+        auto p = std::make_unique<Location_Info>(row_rect, title);
+        keep = p.get();
+        rows[size_t(id)] = std::move(p);
+    };
+    auto single = [&](int id, const char* title, Number_Info*& keep) {
+        auto p = std::make_unique<Number_Info>(row_rect, title);
+        keep = p.get();
+        rows[size_t(id)] = std::move(p);
+    };
+    pair(row_location, "Location", location_row);
+    pair(row_size, "Size", size_row);
+    rows[row_right_button_mode] = std::make_unique<Option_Pane>(row_rect, "Right button mode", "Color,History,Dropper$", 0);
+    pair(row_radius, "Radius X, Y", radius_row);
+    single(row_length, "Length", length_row);
+    single(row_degrees, "Degrees", degrees_row);
+    pair(row_offset, "Offset", offset_row);
+    rows[row_rectangle_type] = std::make_unique<Option_Pane>(row_rect, "Type", shape_types, 0);
+    rows[row_ellipse_type] = std::make_unique<Option_Pane>(row_rect, "Type", shape_types, 0);
+    rows[row_lightness_mode] = std::make_unique<Option_Pane>(row_rect, "Mode", "Linear (washed),Perception (warm)$", 0);
+    rows[row_button_order] =
+        std::make_unique<Option_Pane>(row_rect, "Button order", "L:Lighten - R:Darken,L:Darken - R:Lighten$", 0);
+    rows[row_speed] = std::make_unique<Option_Pane>(
+        row_rect, "Speed", "Extremely slow,Very slow,Slow,Moderate,Fast,Very fast,Extremely fast$", 3);
+    rows[row_size_compensation] = std::make_unique<Tick_Pane>(row_rect, "Speed", "Size compensation", false);
+    rows[row_selection_mode] = std::make_unique<Option_Pane>(row_rect, "Mode", "Standard,Persistent,Fixed$", 0);
+    rows[row_stamp_mode] = std::make_unique<Option_Pane>(row_rect, "Mode", "Brush,Pattern$", 0);
+
+    pad = std::make_unique<Text_Pane>(Rectangle{x + pad_offset, client.y, pad_width, pad_height}, "Brush pad");
+    const Rectangle mixers = colors->mixer_stack();
+    adjust_area = Rectangle{mixers.x, mixers.y + mixers.height + Color_Tools::gap, 110, 27};
+    layout_page();
+    // Black on the left button and white on the right, with a red square to
+    // pick shades from; the left colour is the selected one.
+    colors->set_tool_color(1, Color(255, 255, 255));
+    colors->set_tool_color(0, Color(0, 0, 0));
+    colors->selector().set_hue_color(Color(255, 0, 0));
+}
+
+Tool_Options_Pane::~Tool_Options_Pane() {
+    if (g_color_tools == colors.get()) g_color_tools = nullptr;
+}
+
+void Tool_Options_Pane::set_tool(int tool) {
+    if (tool != current_tool) {
+        last_tool = current_tool;
+        current_tool = tool;
+    }
+    const int slot = brush_slot(tool);
+    if (slot >= 0) brush_selector->set_brush(slots[size_t(slot)].shape, slots[size_t(slot)].size);
+    brush_selector->set_color(tool_color(0), commands::brush_mode(tool));
+    const int page = commands::tool_options_index(tool);
+    if (page >= 0) show_page(page);
+}
+
+void Tool_Options_Pane::show_page(int page) {
+    if (page < 0 || page >= page_count) return;
+    if (page != current_page) set_title(pages[page].name);
+    current_page = page;
+    layout_page();
+}
+
+// Each part of the page is placed below the one before; rows that the page
+// does not show keep their last place.
+void Tool_Options_Pane::layout_page() {
+    const Page& p = pages[current_page];
+    int y = client.y;
+    auto place = [&](int id) {
+        Pane& r = *rows[size_t(id)];
+        r.set_position(client.x, y);
+        if (is_dialog_row(id)) static_cast<Dialog_Pane&>(r).layout_rows();
+        y += r.outer_area().height + row_gap;
+    };
+    if (p.type_row >= 0) place(p.type_row);
+    if (p.brush) y = brush_selector->place(client.x, y);
+    if (p.location) place(row_location);
+    for (int i = 0; i < p.row_count; ++i) place(p.rows[i]);
+}
+
+void Tool_Options_Pane::draw() {
+    Pane::draw();
+    const Page& p = pages[current_page];
+    if (p.type_row >= 0) rows[size_t(p.type_row)]->draw();
+    if (p.tool_colors) colors->draw();
+    if (p.brush) {
+        brush_selector->draw();
+        // The brush button under the pointer is outlined.
+        for (int k = 1; k <= 7; ++k) {
+            const Rectangle s = brush_selector->shape_button(k - 1);
+            const Rectangle z = brush_selector->size_button(k);
+            if (s.contains(pointer.x, pointer.y)) g_main_window->frame(s, ui_colors[10]);
+            if (k <= 6 && z.contains(pointer.x, pointer.y)) g_main_window->frame(z, ui_colors[10]);
+        }
+    }
+    if (p.location) rows[row_location]->draw();
+    for (int i = 0; i < p.row_count; ++i) rows[size_t(p.rows[i])]->draw();
+    pad->draw();
+    Text_Writer& writer = g_main_window->writer(font_pane);
+    const Rectangle c = pad->client_area();
+    writer.write_at(c.x + 2, c.y, "The pad is empty.");
+    g_main_window->bevel_fill(adjust_area, button_face_color);
+    Text_Writer& label = g_main_window->writer(font_regular);
+    label.write_at(adjust_area.x + (adjust_area.width - label.measure(adjust_label)) / 2,
+                   adjust_area.y + (adjust_area.height - label.line_height()) / 2, adjust_label);
+}
+
+void Tool_Options_Pane::hover(int x, int y) { pointer = SDL_Point{x, y}; }
+
+bool Tool_Options_Pane::click_row(int id, int x, int y) {
+    if (!is_dialog_row(id)) return false;
+    return static_cast<Dialog_Pane&>(*rows[size_t(id)]).press(x, y);
+}
+
+bool Tool_Options_Pane::click(int button, int x, int y) {
+    const Page& p = pages[current_page];
+    if (p.tool_colors && colors->mouse_down(button, x, y)) return true;
+    if (p.brush) {
+        if (brush_selector->click_shape(x, y) || brush_selector->click_size(x, y)) {
+            store_brush_slot();
+            return true;
+        }
+        // Not drawn on every brush page, but it takes clicks on all but the
+        // lightness pen's, where it last stood.
+        if (current_page != 1 && click_row(row_right_button_mode, x, y)) return true;
+    }
+    if (p.clickable) {
+        if (p.type_row >= 0 && click_row(p.type_row, x, y)) return true;
+        for (int i = 0; i < p.row_count; ++i)
+            if (click_row(p.rows[i], x, y)) return true;
+    }
+    return false;
+}
+
+int Tool_Options_Pane::command_at(int x, int y) const {
+    return adjust_area.contains(x, y) ? int(command_adjust_hsv) : -1;
+}
+
+void Tool_Options_Pane::tool_color_changed(int index, Color c) {
+    color_row->set(c);
+    if (index == 0) brush_selector->set_color(c, commands::brush_mode(current_tool));
+}
+
+void Tool_Options_Pane::store_brush_slot() {
+    const int slot = brush_slot(current_tool);
+    if (slot >= 0) slots[size_t(slot)] = Slot{brush_selector->shape(), brush_selector->size()};
+}
+
+void Tool_Options_Pane::select_brush_size(int size) { select_brush(brush_selector->shape(), size); }
+
+void Tool_Options_Pane::select_brush(int shape, int size) {
+    brush_selector->set_brush(shape, size);
+    store_brush_slot();
+}
+
+int Tool_Options_Pane::choice(int id) const {
+    const Pane& r = *rows[size_t(id)];
+    if (id == row_previous_tool || id == row_size_compensation) return static_cast<const Tick_Pane&>(r).value();
+    return static_cast<const Option_Pane&>(r).value();
+}
+
+int Tool_Options_Pane::right_button_mode() const { return choice(tool_pages::row_right_button_mode); }
+int Tool_Options_Pane::colorize_type() const { return choice(tool_pages::row_colorize_type); }
+int Tool_Options_Pane::rectangle_type() const { return choice(tool_pages::row_rectangle_type); }
+int Tool_Options_Pane::ellipse_type() const { return choice(tool_pages::row_ellipse_type); }
+int Tool_Options_Pane::lightness_mode() const { return choice(tool_pages::row_lightness_mode); }
+int Tool_Options_Pane::button_order() const { return choice(tool_pages::row_button_order); }
+int Tool_Options_Pane::speed() const { return choice(tool_pages::row_speed); }
+bool Tool_Options_Pane::size_compensation() const { return choice(tool_pages::row_size_compensation) == 1; }
+bool Tool_Options_Pane::select_previous_tool() const { return choice(tool_pages::row_previous_tool) == 1; }
+int Tool_Options_Pane::selection_mode() const { return choice(tool_pages::row_selection_mode); }
+int Tool_Options_Pane::stamp_mode() const { return choice(tool_pages::row_stamp_mode); }
+
+void Tool_Options_Pane::set_rectangle_type(int type) {
+    auto& r = static_cast<Option_Pane&>(*rows[tool_pages::row_rectangle_type]);
+    static_cast<Textlist_Dialog_Item*>(r.container().find(setting_pane_first_id + 1))->choice.value = type;
+}
+
+void Tool_Options_Pane::set_ellipse_type(int type) {
+    auto& r = static_cast<Option_Pane&>(*rows[tool_pages::row_ellipse_type]);
+    static_cast<Textlist_Dialog_Item*>(r.container().find(setting_pane_first_id + 1))->choice.value = type;
+}
+
+void Tool_Options_Pane::set_location(int x, int y) { location_row->set(x, y); }
+void Tool_Options_Pane::set_size(int w, int h) { size_row->set(w, h); }
+void Tool_Options_Pane::set_radius(int rx, int ry) { radius_row->set(rx, ry); }
+void Tool_Options_Pane::set_length(int n) { length_row->set(n); }
+void Tool_Options_Pane::set_degrees(int n) { degrees_row->set(n); }
+void Tool_Options_Pane::set_offset(int x, int y) { offset_row->set(x, y); }
+void Tool_Options_Pane::set_color_readout(Color c) { color_row->set(c); }
+
+namespace {
+void fill_clipped(const Rectangle& r, const Rectangle& view, Color c) {
+    const int x1 = r.x > view.x ? r.x : view.x;
+    const int y1 = r.y > view.y ? r.y : view.y;
+    const int x2 = r.x + r.width < view.x + view.width ? r.x + r.width : view.x + view.width;
+    const int y2 = r.y + r.height < view.y + view.height ? r.y + r.height : view.y + view.height;
+    if (x2 > x1 && y2 > y1) g_main_window->fill_rect(Rectangle{x1, y1, x2 - x1, y2 - y1}, c);
+}
+
+void outline_clipped(const Rectangle& r, const Rectangle& view, Color c) {
+    fill_clipped(Rectangle{r.x, r.y, r.width, 1}, view, c);
+    fill_clipped(Rectangle{r.x, r.y + r.height - 1, r.width, 1}, view, c);
+    fill_clipped(Rectangle{r.x, r.y + 1, 1, r.height - 2}, view, c);
+    fill_clipped(Rectangle{r.x + r.width - 1, r.y + 1, 1, r.height - 2}, view, c);
+}
+}  // namespace
+
+// The brush under the pointer: its pixels outlined on the cells it would
+// paint (the precise brush) and a translucent shadow following the pointer.
+void Tool_Options_Pane::draw_overlays(const Canvas_View& canvas, float x, float y) {
+    if (!pages[current_page].brush || !canvas.tile() || !canvas.contains(x, y)) return;
+    const Brush& b = brush();
+    const int mode = commands::brush_mode(current_tool);
+    const int precise = g_options ? g_options->get(Options::precise_brush) : 2;
+    const bool outline = (precise == 1 || (precise == 2 && b.size() > 1)) && (mode == 0 || mode == 6);
+    const bool shadow = g_options ? g_options->is_on(Options::show_shadow_brush) : true;
+    const bool snap = g_options && g_options->is_on(Options::blocky_precise_brush);
+    const int s = canvas.pixel_size();
+    const SDL_Point o = canvas.origin();
+    const Cell cell = canvas.cell_at(x, y);
+    const int hot = brush_hotspot();
+    const Rectangle& view = canvas.view_rect();
+    Color c = tool_color(0);
+    if (outline) {
+        c.alpha = 160;
+        for (int by = 0; by < b.size(); ++by)
+            for (int bx = 0; bx < b.size(); ++bx)
+                if (b.is_set(bx, by))
+                    fill_clipped(Rectangle{o.x + (cell.x - hot + bx) * s, o.y + (cell.y - hot + by) * s, s, s}, view, c);
+    }
+    // The shadow outlines the cells it covers, so the pixels under it stay
+    // readable.
+    if (shadow) {
+        c.alpha = 200;
+        const int left = snap ? o.x + (cell.x - hot) * s : int(x) - hot * s - s / 2;
+        const int top = snap ? o.y + (cell.y - hot) * s : int(y) - hot * s - s / 2;
+        for (int by = 0; by < b.size(); ++by)
+            for (int bx = 0; bx < b.size(); ++bx)
+                if (b.is_set(bx, by)) outline_clipped(Rectangle{left + bx * s, top + by * s, s, s}, view, c);
+    }
+}
