@@ -9,6 +9,7 @@ Drawing_Tools::Drawing_Tools(Editor& editor) {
     }
     editor.set_stroke_action(8, &pen);
     editor.set_stroke_action(9, &colorize);
+    editor.set_stroke_action(10, &lightness);
     editor.set_stroke_action(11, &dropper);
     editor.set_stroke_action(12, &fill);
 }

@@ -5,6 +5,7 @@
 #include "app/strokes/brush_strokes.h"
 #include "app/strokes/dropper_stroke.h"
 #include "app/strokes/fill_stroke.h"
+#include "app/strokes/lightness_stroke.h"
 #include "app/strokes/shape_stroke.h"
 #include "app/strokes/stroke_context.h"
 
@@ -12,7 +13,7 @@ class Editor;
 
 // The painting tools' strokes, registered with the editor under their canvas
 // actions: the line, rectangles and ellipses (0 to 6), the pen (8), the
-// colorize pen (9), the dropper (11) and the fill (12).
+// colorize pen (9), the lightness pen (10), the dropper (11) and the fill (12).
 class Drawing_Tools {
 public:
     explicit Drawing_Tools(Editor& editor);
@@ -28,6 +29,7 @@ private:
     std::unique_ptr<Shape_Stroke> shapes[7];
     Pen_Stroke pen{shared};
     Colorize_Stroke colorize{shared};
+    Lightness_Stroke lightness{shared};
     Dropper_Stroke dropper{shared};
     Fill_Stroke fill{shared};
 };

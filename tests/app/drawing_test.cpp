@@ -116,6 +116,18 @@ TEST_F(Drawing, TheDropperCanReturnToThePreviousTool) {
     c.select_previous_tool = nullptr;
 }
 
+TEST_F(Drawing, TheLightnessPenStepsAtThePress) {
+    use_tool(command_pen);
+    set_colors(Color(100, 100, 100), white);
+    stroke({{5, 5}, {7, 5}});
+    use_tool(command_lightness_pen);
+    stroke({{6, 5}});
+    EXPECT_GT(tile().get_pixel(6, 5).red, 100);
+    EXPECT_EQ(tile().get_pixel(5, 5), Color(100, 100, 100));
+    stroke({{5, 5}}, SDL_BUTTON_RIGHT);
+    EXPECT_LT(tile().get_pixel(5, 5).red, 100);
+}
+
 TEST_F(Drawing, TheColorizePenKeepsBrightnessAndTakesTheHue) {
     use_tool(command_pen);
     set_colors(Color(120, 120, 120), white);
