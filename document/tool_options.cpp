@@ -74,6 +74,11 @@ Tool_Options_Pane::Tool_Options_Pane(int x, int y) : Pane(Rectangle{x, y, width,
     rows[row_selection_mode] = std::make_unique<Option_Pane>(row_rect, "Mode", "Standard,Persistent,Fixed$", 0);
     rows[row_stamp_mode] = std::make_unique<Option_Pane>(row_rect, "Mode", "Brush,Pattern$", 0);
 
+    // The rows' entries are long; the pane font keeps them inside the 202 pixels.
+    for (int id = 0; id < row_count; ++id)
+        if (is_dialog_row(id))
+            for (const auto& r : static_cast<Dialog_Pane&>(*rows[size_t(id)]).container().rows())
+                r->set_writer(&g_main_window->writer(font_pane));
     pad = std::make_unique<Text_Pane>(Rectangle{x + pad_offset, client.y, pad_width, pad_height}, "Brush pad");
     const Rectangle mixers = colors->mixer_stack();
     adjust_area = Rectangle{mixers.x, mixers.y + mixers.height + Color_Tools::gap, 110, 27};

@@ -1,0 +1,86 @@
+#include <gtest/gtest.h>
+
+#include "app/commands.h"
+#include "app/editor.h"
+#include "document/tool_options.h"
+#include "support/headless.h"
+#include "ui/info_panes.h"
+#include "ui/pane.h"
+
+namespace {
+class ToolOptions : public Headless {
+protected:
+    void SetUp() override {
+        Headless::SetUp();
+        ASSERT_TRUE(g_editor->begin());
+        drop_pending_events();
+    }
+    static void press_row(int id) {
+        const Rectangle c = g_tool_options->row(id).client_area();
+        // The row's "More" button is its first item, at the client's left.
+        push_click(c.x + 4, c.y + 4);
+        SDL_Event e;
+        while (SDL_PollEvent(&e)) g_editor->handle(e);
+    }
+};
+}  // namespace
+
+TEST_F(ToolOptions, ToolsShowTheirPagesAndRememberThePreviousTool) {
+    Tool_Options_Pane& t = *g_tool_options;
+    EXPECT_EQ(t.tool(), command_pen);
+    g_editor->run_command(command_dropper);
+    EXPECT_EQ(t.page(), 4);
+    EXPECT_EQ(t.previous_tool(), command_pen);
+    g_editor->run_command(command_work_selection);
+    EXPECT_EQ(t.page(), 16);
+    EXPECT_EQ(t.previous_tool(), command_dropper);
+    EXPECT_EQ(g_editor->current_tool(), command_work_selection);
+}
+
+TEST_F(ToolOptions, DefaultsOfTheChoicesAndTicks) {
+    const Tool_Options_Pane& t = *g_tool_options;
+    EXPECT_EQ(t.speed(), 3);
+    EXPECT_EQ(t.right_button_mode(), 0);
+    EXPECT_EQ(t.rectangle_type(), 0);
+    EXPECT_FALSE(t.size_compensation());
+    EXPECT_FALSE(t.select_previous_tool());
+}
+
+TEST_F(ToolOptions, RowsTakeClicksOnTheirPagesAndTheHiddenRightButtonRowToo) {
+    g_editor->run_command(command_lightness_pen);
+    press_row(tool_pages::row_speed);
+    EXPECT_EQ(g_tool_options->speed(), 4);
+    // The smudge brush's page does not show "Right button mode", yet its
+    // place below the brush selector still takes the click.
+    g_editor->run_command(command_pen);
+    g_editor->run_command(command_smudge_brush);
+    press_row(tool_pages::row_right_button_mode);
+    EXPECT_EQ(g_tool_options->right_button_mode(), 1);
+    // The line page has no choice rows: nothing there takes a click.
+    g_editor->run_command(command_line);
+    press_row(tool_pages::row_right_button_mode);
+    EXPECT_EQ(g_tool_options->right_button_mode(), 1);
+}
+
+TEST_F(ToolOptions, FilledShapeButtonsChooseTheShapeToolFilled) {
+    g_editor->run_command(command_filled_rectangle);
+    EXPECT_EQ(g_editor->current_tool(), command_rectangle);
+    EXPECT_EQ(g_tool_options->rectangle_type(), 1);
+    EXPECT_EQ(g_tool_options->page(), 7);
+    g_editor->run_command(command_filled_circle);
+    EXPECT_EQ(g_editor->current_tool(), command_circle);
+    EXPECT_EQ(g_tool_options->ellipse_type(), 1);
+}
+
+TEST_F(ToolOptions, ReadoutsKeepWhatTheToolsWrite) {
+    g_tool_options->set_size(3, 4);
+    g_tool_options->set_length(9);
+    auto& size = static_cast<const Location_Info&>(g_tool_options->row(tool_pages::row_size));
+    EXPECT_EQ(size.first(), 3);
+    EXPECT_EQ(size.second(), 4);
+    EXPECT_EQ(static_cast<const Number_Info&>(g_tool_options->row(tool_pages::row_length)).value(), 9);
+    EXPECT_EQ(size.outer_area().width, Tool_Options_Pane::row_width);
+    // The panes do not overlap: the pad lies right of the rows' column.
+    const Rectangle pad_left{g_tool_options->outer_area().x + Tool_Options_Pane::pad_offset, 0, 1, 1};
+    EXPECT_LE(g_tool_options->client_area().x + Tool_Options_Pane::row_width, pad_left.x);
+}
