@@ -46,14 +46,17 @@ const char* Main_Window::renderer_name() const { return SDL_GetRendererName(sdl_
 
 void Main_Window::set_color(Color c) { SDL_SetRenderDrawColor(sdl_renderer, c.red, c.green, c.blue, c.alpha); }
 
-// An opaque fill looks the same blended or not, and the software renderer
-// fills without blending many times faster.
+// An opaque fill looks the same blended or not. The software renderer fills a
+// large area many times faster without blending, but each switch of the blend
+// mode costs about as much as blending a few thousand pixels: only large
+// opaque fills switch.
 void Main_Window::fill_rect(const Rectangle& rect, Color c) {
     set_color(c);
     scratch = {float(rect.x), float(rect.y), float(rect.width), float(rect.height)};
-    if (c.alpha == 255) SDL_SetRenderDrawBlendMode(sdl_renderer, SDL_BLENDMODE_NONE);
+    const bool plain = c.alpha == 255 && rect.width * rect.height >= unblended_fill_area;
+    if (plain) SDL_SetRenderDrawBlendMode(sdl_renderer, SDL_BLENDMODE_NONE);
     SDL_RenderFillRect(sdl_renderer, &scratch);
-    if (c.alpha == 255) SDL_SetRenderDrawBlendMode(sdl_renderer, SDL_BLENDMODE_BLEND);
+    if (plain) SDL_SetRenderDrawBlendMode(sdl_renderer, SDL_BLENDMODE_BLEND);
 }
 
 void Main_Window::line(int x1, int y1, int x2, int y2, Color c) {

@@ -25,6 +25,8 @@ class Main_Window {
 public:
     static constexpr uint32_t default_width = 1232;
     static constexpr uint32_t default_height = 664;
+    // From this many pixels an opaque fill is cheaper without blending.
+    static constexpr int unblended_fill_area = 16384;
 
     // Fatal when the window or renderer cannot be made or "pool.bmp" cannot
     // be read from the working directory.
