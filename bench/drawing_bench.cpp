@@ -4,13 +4,10 @@
 
 #include <SDL3/SDL.h>
 
-#include <unistd.h>
 
 #include <algorithm>
-#include <filesystem>
 #include <vector>
 
-#include "app/application.h"
 #include "app/canvas_view.h"
 #include "app/commands.h"
 #include "app/editor.h"
@@ -24,9 +21,9 @@
 #include "document/tileset.h"
 #include "document/undo_history.h"
 #include "document/undo_target.h"
+#include "bench_program.h"
 #include "ui/backdrop.h"
 
-namespace fs = std::filesystem;
 
 namespace {
 
@@ -93,36 +90,15 @@ void BM_undo_redo_64(benchmark::State& state) {
     state.SetItemsProcessed(int64_t(state.iterations()) * 2);
 }
 
-// The real program on SDL's dummy driver: start-up in a scratch directory
-// holding the sprite sheet, a 64 x 64 tile at pixel size 8.
-struct Program {
+// The real program with a 64 x 64 tile at pixel size 8 and the pen in red.
+struct Program : Bench_Program {
     Program() {
-        previous = fs::current_path();
-        dir = fs::temp_directory_path() / ("mosswick-bench-" + std::to_string(getpid()));
-        std::error_code ignored;
-        fs::remove_all(dir, ignored);
-        fs::create_directories(dir / "data");
-        fs::copy_file(fs::path(MOSSWICK_SOURCE_DIR) / "data" / "pool.bmp", dir / "data" / "pool.bmp");
-        fs::current_path(dir);
-        SDL_SetHint(SDL_HINT_VIDEO_DRIVER, "dummy");
-        SDL_InitSubSystem(SDL_INIT_VIDEO);
-        Application::start_up();
-        g_editor->begin();
         g_editor->tilesets().new_tileset(64, 64);
         g_editor->canvas().set_pixel_size(8);
         g_editor->canvas().centre();
         g_editor->run_command(command_pen);
         g_editor->drawing().context().take_color(0, Color(200, 30, 30));
     }
-    ~Program() {
-        Application::shut_down();
-        SDL_QuitSubSystem(SDL_INIT_VIDEO);
-        fs::current_path(previous);
-        std::error_code ignored;
-        fs::remove_all(dir, ignored);
-    }
-    fs::path previous;
-    fs::path dir;
 };
 
 // Feeds the stroke loop one motion per repaint and times each event.
