@@ -155,7 +155,7 @@ TEST(TokenStreamFileDeathTest, HugeLengthFailsWithoutExhaustingMemory) {
 
 TEST(TokenStreamFileDeathTest, MissingLengthEndsWithTheBlockError) {
     Scratch_Dir dir;
-    const std::string path = dir.file("stub.dat");
+    const std::string path = dir.file("short.dat");
     write_bytes(path, {3, 0});
     EXPECT_EXIT(
         {
@@ -165,7 +165,7 @@ TEST(TokenStreamFileDeathTest, MissingLengthEndsWithTheBlockError) {
             Token_Stream in;
             in.read_from(file);
         },
-        ::testing::ExitedWithCode(1), "Unable to load block from  .*stub\\.dat!");
+        ::testing::ExitedWithCode(1), "Unable to load block from  .*short\\.dat!");
 }
 
 }  // namespace
