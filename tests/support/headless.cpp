@@ -1,9 +1,5 @@
 #include "support/headless.h"
 
-#include <unistd.h>
-
-#include <cstdlib>
-
 #include "app/application.h"
 #include "app/data_directory.h"
 #include "app/globals.h"
@@ -13,22 +9,10 @@ namespace fs = std::filesystem;
 
 fs::path source_path(const std::string& relative) { return fs::path(MOSSWICK_SOURCE_DIR) / relative; }
 
-Temp_Dir::Temp_Dir() {
-    std::string pattern = (fs::temp_directory_path() / "mosswick-test-XXXXXX").string();
-    if (!mkdtemp(pattern.data())) std::abort();
-    path = pattern;
-}
-
-Temp_Dir::~Temp_Dir() {
-    std::error_code ignored;
-    fs::remove_all(path, ignored);
-}
-
 void Headless::SetUp() {
     previous_dir = fs::current_path();
-    Temp_Dir dir;
-    work_dir = dir.path;
-    dir.path.clear();  // kept until TearDown
+    scratch = std::make_unique<Scratch_Dir>();
+    work_dir = scratch->path();
     fs::create_directory(work_dir / "data");
     fs::copy_file(source_path("data/pool.bmp"), work_dir / "data" / "pool.bmp");
     fs::current_path(work_dir);
@@ -43,8 +27,7 @@ void Headless::TearDown() {
     SDL_QuitSubSystem(SDL_INIT_VIDEO);
     SDL_Quit();
     fs::current_path(previous_dir);
-    std::error_code ignored;
-    fs::remove_all(work_dir, ignored);
+    scratch.reset();
 }
 
 void Headless::drop_pending_events() {

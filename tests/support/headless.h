@@ -4,9 +4,11 @@
 #include <gtest/gtest.h>
 
 #include <filesystem>
+#include <memory>
 #include <string>
 
 #include "color/color.h"
+#include "support/scratch_dir.h"
 
 // Runs the real start-up of the program on SDL's dummy video driver (a window
 // with a software renderer) in a fresh working directory holding a data/
@@ -34,13 +36,13 @@ protected:
 
 private:
     std::filesystem::path previous_dir;
+    std::unique_ptr<Scratch_Dir> scratch;
 };
 
 // A fresh temporary directory, removed with the object.
 struct Temp_Dir {
-    Temp_Dir();
-    ~Temp_Dir();
-    std::filesystem::path path;
+    Scratch_Dir scratch;
+    const std::filesystem::path path = scratch.path();
 };
 
 std::filesystem::path source_path(const std::string& relative);
