@@ -7,6 +7,7 @@
 #include "app/globals.h"
 #include "app/main_window.h"
 #include "app/stroke_action.h"
+#include "app/tile_navigation_pane.h"
 #include "app/strokes/drawing_tools.h"
 #include "app/tileset_tabs.h"
 #include "app/tool_options_link.h"
@@ -92,6 +93,8 @@ Editor::Editor()
     };
     open.current_changed = [this](Tileset&) { show_current_tile(); };
     Backdrop::set_base(paint_editor, this);
+    // Every tileset made from here on gets its navigation pane.
+    set_tileset_navigation_maker(make_tile_navigation_pane);
     drawing_tools = std::make_unique<Drawing_Tools>(*this);
     link_tool_options(drawing_tools->context());
     color_editor = std::make_unique<Color_Editor>();
@@ -105,6 +108,7 @@ Editor::~Editor() {
     color_editor.reset();
     canvas_view.reset();
     open.destroy_all();
+    set_tileset_navigation_maker(nullptr);
 }
 
 bool Editor::begin() {
@@ -130,6 +134,7 @@ void Editor::handle(const SDL_Event& event) {
             pointer_y = event.motion.y;
             if (!canvas_view->contains(pointer_x, pointer_y) && g_tool_options)
                 g_tool_options->hover(int(pointer_x), int(pointer_y));
+            if (Tileset_Navigation* n = navigation()) n->hover(int(pointer_x), int(pointer_y));
             follow_pointer();
             break;
         case SDL_EVENT_MOUSE_BUTTON_DOWN:
@@ -142,6 +147,9 @@ void Editor::handle(const SDL_Event& event) {
             } else if (button != button_none) {
                 press();
             }
+            break;
+        case SDL_EVENT_MOUSE_BUTTON_UP:
+            if (Tileset_Navigation* n = navigation()) n->release();
             break;
         case SDL_EVENT_MOUSE_WHEEL:
             if (event.wheel.y > 0)
@@ -190,6 +198,7 @@ void Editor::repaint(bool present) {
     undo_control->draw_meter();
     tileset_tabs->draw(open);
     readout.draw();
+    if (Tileset_Navigation* n = navigation()) n->draw();
     if (g_tool_options) g_tool_options->draw_overlays(*canvas_view, pointer_x, pointer_y);
     if (present) w.present();
 }
@@ -268,8 +277,12 @@ void Editor::press() {
             return;
         }
     }
+    // The strip changes the tile itself; "Change tile" says there is nothing
+    // more to run.
     int command = -1;
-    const int menu = menu_bar->menu_at(SDL_Point{x, y});
+    if (Tileset_Navigation* n = navigation()) command = n->press(x, y, button == button_left);
+    if (command == command_change_tile) return;
+    const int menu = command < 0 ? menu_bar->menu_at(SDL_Point{x, y}) : -1;
     if (menu >= 0) command = menu_bar->track(SDL_Point{x, y}, menu);
     if (command >= 0) {
         pointer_x = -1;
@@ -340,3 +353,8 @@ void Editor::follow_pointer() {
 }
 
 void Editor::zoom(int direction) { canvas_view->zoom(direction); }
+
+Tileset_Navigation* Editor::navigation() {
+    Tileset* t = open.current();
+    return t ? t->navigation() : nullptr;
+}

@@ -15,6 +15,7 @@ class Drawing_Tools;
 class Menu_Bar;
 class Stroke_Action;
 class Tileset_Tabs;
+class Tileset_Navigation;
 class Tool_Bar;
 class Undo_Control;
 
@@ -63,6 +64,8 @@ public:
     Undo_Control& undo() { return *undo_control; }
     const Position_Readout& position() const { return readout; }
     SDL_FPoint pointer() const { return SDL_FPoint{pointer_x, pointer_y}; }
+    // The current tileset's navigation pane, if it has one.
+    Tileset_Navigation* navigation();
 
     // The pixel work of a tool on the canvas, or none while that tool has no
     // canvas action of its own yet.

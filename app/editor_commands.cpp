@@ -152,6 +152,18 @@ int Editor::execute_tileset_command(int command) {
         case command_previous_tile:
             store.previous();
             return command;
+        case command_next_tile_strip:
+            t->strip().next_page();
+            return command;
+        case command_previous_tile_strip:
+            t->strip().previous_page();
+            return command;
+        case command_rewind_strip:
+            t->strip().rewind();
+            return command;
+        case command_forward_strip:
+            t->strip().forward();
+            return command;
         case command_add_new_tile:
             store.add_tile();
             return command;
@@ -241,12 +253,15 @@ int Editor::execute_editor_command(int command) {
     }
 }
 
-// The tileset's bookkeeping after a command: the canvas follows the current
-// tile, and the history pen's saved copy and the selection are refreshed.
+// The tileset's bookkeeping after a command: the canvas and the strip follow
+// the current tile, and the history pen's saved copy and the selection are
+// refreshed. Rewinding and forwarding the strip move the tile too.
 void Editor::after_command(int command) {
     if (command < 0 || !open.current()) return;
     const int group = commands::group(command);
-    if (group == group_tile_list || group == group_current_tile) show_current_tile();
+    const bool scrolls = commands::scrolls_strip_after(command);
+    if (group == group_tile_list || group == group_current_tile || scrolls) show_current_tile();
+    if (scrolls) open.current()->strip().make_current_visible();
     if (commands::resets_selection_after(command) && g_options && g_options->is_on(Options::clear_selection))
         canvas_view->reset_selection();
     if (commands::saves_copy_after(command)) canvas_view->save_copy();

@@ -19,12 +19,14 @@ void File_Path::set(const std::string& path) {
 }
 
 Tileset::Tileset(const std::string& path, uint32_t tile_width, uint32_t tile_height)
-    : tile_store(std::make_unique<Tile_Store>(tile_width, tile_height, maximum_tiles)) {
+    : tile_store(std::make_unique<Tile_Store>(tile_width, tile_height, maximum_tiles)),
+      tile_strip(*tile_store),
+      navigation_pane(make_tileset_navigation(tile_strip)) {
     file_path.set(path);
 }
 
 Tileset::Tileset(const std::string& path, std::unique_ptr<Tile_Store> tiles)
-    : tile_store(std::move(tiles)) {
+    : tile_store(std::move(tiles)), tile_strip(*tile_store), navigation_pane(make_tileset_navigation(tile_strip)) {
     file_path.set(path);
 }
 

@@ -6,6 +6,8 @@
 #include <string>
 
 #include "document/tile_store.h"
+#include "document/tile_strip.h"
+#include "document/tileset_navigation.h"
 #include "document/undo_history.h"
 
 // The path of a document split once into its parts: the file name is what
@@ -37,6 +39,10 @@ public:
     const Tile_Store& store() const { return *tile_store; }
     Undo_History& history() { return undo_history; }
     const Undo_History& history() const { return undo_history; }
+    Tile_Strip& strip() { return tile_strip; }
+    const Tile_Strip& strip() const { return tile_strip; }
+    // None while no display has installed its maker.
+    Tileset_Navigation* navigation() { return navigation_pane.get(); }
     const File_Path& path() const { return file_path; }
     bool is_modified() const { return modified; }
     bool is_named() const { return named; }
@@ -66,9 +72,11 @@ private:
     std::unique_ptr<Tile_Store> tile_store;
     // Emptied by resize_tiles.
     Undo_History undo_history;
+    // The strip of 51 cells and the "Tileset navigation" pane that shows it;
+    // the pane places the strip in the window.
+    Tile_Strip tile_strip;
+    std::unique_ptr<Tileset_Navigation> navigation_pane;
     // Joining as their own parts are built, each owned here:
-    //   the "Tileset navigation" pane holding the tile strip at
-    //     (4, window height - 28), 51 cells of 24 pixels,
     //   the map editor of (480 / tile width) x (480 / tile height) cells,
     //     recreated whenever the tile size changes,
     //   the title text object showing display_name().

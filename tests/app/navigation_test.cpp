@@ -1,0 +1,203 @@
+// The "Tileset navigation" pane and its tile strip through the editor's real
+// routing, commands, undo and drawing.
+#include "app/tile_navigation_pane.h"
+
+#include <gtest/gtest.h>
+
+#include "app/canvas_view.h"
+#include "app/commands.h"
+#include "app/editor.h"
+#include "app/globals.h"
+#include "app/image.h"
+#include "app/main_window.h"
+#include "app/sprites.h"
+#include "document/tileset.h"
+#include "support/headless.h"
+#include "ui/image_pool.h"
+
+namespace {
+constexpr int strip_y = 664 - 28;
+constexpr int cell_centre_y = strip_y + 12;
+int cell_centre_x(int cell) { return 4 + cell * 24 + 12; }
+}  // namespace
+
+class NavigationTest : public Headless {
+protected:
+    void SetUp() override {
+        Headless::SetUp();
+        ASSERT_TRUE(g_editor->begin());
+        drop_pending_events();
+    }
+    static void pump() {
+        SDL_Event e;
+        while (SDL_PollEvent(&e)) g_editor->handle(e);
+    }
+    static Tileset& tileset() { return *g_editor->current(); }
+    static Tile_Store& store() { return tileset().store(); }
+    static Tile_Navigation_Pane& pane() { return *static_cast<Tile_Navigation_Pane*>(tileset().navigation()); }
+    // Tiles added as the "Add new tile" command adds them; the first stays current.
+    static void add_tiles(int n) {
+        for (int i = 0; i < n; ++i) g_editor->run_command(command_add_new_tile);
+        g_editor->run_command(command_rewind_strip);
+    }
+    static void click_button(int button) {
+        const Rectangle r = pane().button_area(button);
+        push_click(r.x + r.width / 2, r.y + r.height / 2);
+        pump();
+    }
+};
+
+TEST_F(NavigationTest, EveryTilesetHasItsPaneAndStripAtTheBottom) {
+    ASSERT_NE(tileset().navigation(), nullptr);
+    EXPECT_EQ(tileset().strip().area(), (Rectangle{4, 636, 1224, 24}));
+    // The pane sits below the canvas, clear of the left column and the readout.
+    const Rectangle outer = pane().outer_area();
+    EXPECT_GE(outer.x, Editor::canvas_area.x);
+    EXPECT_LE(outer.x + outer.width, Editor::canvas_area.x + Editor::canvas_area.width);
+    EXPECT_GE(outer.y, Editor::canvas_area.y + Editor::canvas_area.height);
+    EXPECT_LE(outer.y + outer.height, strip_y);
+    g_editor->tilesets().new_tileset(16, 16);
+    EXPECT_NE(g_editor->current()->navigation(), nullptr);
+    EXPECT_EQ(g_editor->current()->strip().area().y, strip_y);
+}
+
+TEST_F(NavigationTest, ClickOnACellSelectsTheTileAndUndoReturns) {
+    add_tiles(9);
+    const int records = tileset().history().count();
+    push_click(cell_centre_x(7), cell_centre_y);
+    pump();
+    EXPECT_EQ(store().current_index(), 7);
+    EXPECT_EQ(g_editor->canvas().tile(), store().tile_at(7));
+    EXPECT_EQ(tileset().history().count(), records + 1);
+    // A click on the current cell changes nothing and records nothing.
+    push_click(cell_centre_x(7), cell_centre_y);
+    pump();
+    EXPECT_EQ(tileset().history().count(), records + 1);
+    push_key(SDLK_Z, SDL_KMOD_CTRL);
+    pump();
+    EXPECT_EQ(store().current_index(), 0);
+    EXPECT_EQ(g_editor->canvas().tile(), store().tile_at(0));
+}
+
+TEST_F(NavigationTest, ClickRightOfTheLastTileSelectsNothing) {
+    add_tiles(4);
+    g_editor->run_command(command_next_tile);
+    const int records = tileset().history().count();
+    push_click(cell_centre_x(5), cell_centre_y);
+    push_click(cell_centre_x(40), cell_centre_y);
+    pump();
+    EXPECT_EQ(store().current_index(), 1);
+    EXPECT_EQ(tileset().history().count(), records);
+}
+
+TEST_F(NavigationTest, StripKeysPageSixtyTiles) {
+    add_tiles(59);
+    ASSERT_EQ(store().tile_count(), 60);
+    ASSERT_EQ(tileset().strip().first(), 0);
+    // ">" is Shift with the key of "<".
+    push_key(SDLK_BACKSLASH, SDL_KMOD_SHIFT);
+    pump();
+    EXPECT_EQ(tileset().strip().first(), 46);
+    EXPECT_EQ(store().current_index(), 0);
+    push_key(SDLK_BACKSLASH);
+    pump();
+    EXPECT_EQ(tileset().strip().first(), 0);
+}
+
+TEST_F(NavigationTest, ButtonsRunTheirCommands) {
+    add_tiles(59);
+    Tile_Strip& strip = tileset().strip();
+    click_button(5);  // strip next
+    EXPECT_EQ(strip.first(), 46);
+    click_button(1);  // strip previous
+    EXPECT_EQ(strip.first(), 0);
+    click_button(6);  // forward: the last tile, scrolled into view
+    EXPECT_EQ(store().current_index(), 59);
+    EXPECT_EQ(strip.first(), 9);
+    EXPECT_EQ(g_editor->canvas().tile(), store().tile_at(59));
+    click_button(2);  // previous tile
+    EXPECT_EQ(store().current_index(), 58);
+    click_button(4);  // next tile
+    EXPECT_EQ(store().current_index(), 59);
+    click_button(0);  // rewind
+    EXPECT_EQ(store().current_index(), 0);
+    EXPECT_EQ(strip.first(), 0);
+    EXPECT_EQ(g_editor->canvas().tile(), store().tile_at(0));
+    // Rewinding is undone like any other tile change.
+    push_key(SDLK_Z, SDL_KMOD_CTRL);
+    pump();
+    EXPECT_EQ(store().current_index(), 59);
+}
+
+TEST_F(NavigationTest, TheNumberBoxScrollsBackToTheCurrentTile) {
+    add_tiles(59);
+    click_button(5);
+    ASSERT_EQ(tileset().strip().first(), 46);
+    const int records = tileset().history().count();
+    click_button(Tile_Navigation_Pane::id_box);
+    EXPECT_EQ(tileset().strip().first(), 0);
+    EXPECT_EQ(tileset().history().count(), records);
+}
+
+TEST_F(NavigationTest, ButtonsThatCannotActAreGreyAndDoNothing) {
+    Tile_Navigation_Pane& p = pane();
+    for (int b = 0; b < Tile_Navigation_Pane::button_count; ++b) {
+        if (b != Tile_Navigation_Pane::id_box) {
+            EXPECT_FALSE(p.can_act(b)) << b;
+        }
+    }
+    add_tiles(2);
+    EXPECT_FALSE(p.can_act(0));
+    EXPECT_FALSE(p.can_act(2));
+    EXPECT_TRUE(p.can_act(4));
+    EXPECT_TRUE(p.can_act(6));
+    EXPECT_FALSE(p.can_act(5));
+    // A grey button takes the click without changing the tile or the history.
+    const int records = tileset().history().count();
+    click_button(2);
+    EXPECT_EQ(store().current_index(), 0);
+    EXPECT_EQ(tileset().history().count(), records);
+}
+
+TEST_F(NavigationTest, AButtonLooksPressedUntilTheRelease) {
+    add_tiles(3);
+    const Rectangle r = pane().button_area(4);
+    push_button(r.x + 5, r.y + 5, true);
+    pump();
+    EXPECT_EQ(pane().pressed_button(), 4);
+    g_editor->repaint(false);
+    const SDL_FRect& down = g_main_window->pool().sprite_rect(sprite_next_tile_pressed);
+    const SDL_FRect& up = g_main_window->pool().sprite_rect(sprite_next_tile_depressed);
+    const Image& sheet = g_main_window->pool().image();
+    // The pressed and raised looks differ in their top-left corner.
+    const Image::Rgba pressed_corner = sheet.get_pixel(int(down.x) + 1, int(down.y) + 1);
+    ASSERT_NE(pressed_corner, sheet.get_pixel(int(up.x) + 1, int(up.y) + 1));
+    EXPECT_EQ(read_pixel(r.x + 1, r.y + 1), Color(pressed_corner.r, pressed_corner.g, pressed_corner.b));
+    push_button(r.x + 5, r.y + 5, false);
+    pump();
+    EXPECT_EQ(pane().pressed_button(), -1);
+}
+
+TEST_F(NavigationTest, TheStripShowsTheTilesAndMarksTheCurrentOne) {
+    add_tiles(5);
+    Tile& red = *store().tile_at(3);
+    red.fill(Color(255, 0, 0));
+    red.update_texture();
+    store().go_to(2);
+    g_editor->repaint(false);
+    EXPECT_EQ(read_pixel(cell_centre_x(3), cell_centre_y), Color(255, 0, 0));
+    EXPECT_EQ(read_pixel(cell_centre_x(2), cell_centre_y), Color(0, 0, 0));
+    // The current cell carries the marker, drawn from the sheet.
+    const SDL_FRect& marker = g_main_window->pool().sprite_rect(sprite_first_marker);
+    const Image::Rgba edge = g_main_window->pool().image().get_pixel(int(marker.x) + 2, int(marker.y) + 2);
+    EXPECT_EQ(read_pixel(4 + 2 * 24 + 2, strip_y + 2), Color(edge.r, edge.g, edge.b));
+    EXPECT_NE(read_pixel(4 + 3 * 24 + 2, strip_y + 2), Color(edge.r, edge.g, edge.b));
+}
+
+TEST_F(NavigationTest, ANewTileScrollsTheStripToIt) {
+    add_tiles(70);
+    ASSERT_EQ(tileset().strip().first(), 0);
+    g_editor->run_command(command_add_new_tile);
+    EXPECT_EQ(store().current_index(), 71);
+    EXPECT_EQ(tileset().strip().first(), 21);
+}
