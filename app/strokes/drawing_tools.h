@@ -7,13 +7,16 @@
 #include "app/strokes/fill_stroke.h"
 #include "app/strokes/lightness_stroke.h"
 #include "app/strokes/shape_stroke.h"
+#include "app/strokes/smudge_stroke.h"
+#include "app/strokes/stamp_stroke.h"
 #include "app/strokes/stroke_context.h"
 
 class Editor;
 
 // The painting tools' strokes, registered with the editor under their canvas
-// actions: the line, rectangles and ellipses (0 to 6), the pen (8), the
-// colorize pen (9), the lightness pen (10), the dropper (11) and the fill (12).
+// actions: the line, rectangles and ellipses (0 to 6), the stamp brush (7),
+// the pen (8), the colorize pen (9), the lightness pen (10), the dropper (11),
+// the fill (12) and the smudge brush (13).
 class Drawing_Tools {
 public:
     explicit Drawing_Tools(Editor& editor);
@@ -32,4 +35,6 @@ private:
     Lightness_Stroke lightness{shared};
     Dropper_Stroke dropper{shared};
     Fill_Stroke fill{shared};
+    Stamp_Stroke stamp{shared};
+    Smudge_Stroke smudge{shared};
 };

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "color/color.h"
+#include "document/smudge.h"
 
 class Tile;
 
@@ -19,6 +20,12 @@ struct Tool_Settings {
     // The pen's brush; none is a single pixel.
     const Tile* brush = nullptr;
     int brush_width = 1;
+    // The stamp brush's image in its own colours (transparent pixels are left
+    // out); none stamps one pixel.
+    const Tile* stamp = nullptr;
+    int stamp_mode = 0;      // "Brush,Pattern$"
+    // Out of 256: how much of the carried colour each smudge step keeps.
+    int smudge_strength = Smudge::default_strength;
     int rectangle_type = 0;  // "Outline,Filled,Filled & Outline$"
     int ellipse_type = 0;
     int right_button_mode = right_button_color;

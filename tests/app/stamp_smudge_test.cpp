@@ -1,0 +1,143 @@
+// The stamp brush and the smudge brush driven through the canvas's real
+// stroke loop.
+#include "app/undo_control.h"
+#include "document/tool_options.h"
+#include "tests/app/drawing_fixture.h"
+
+namespace {
+const Color red(220, 20, 30);
+const Color blue(10, 40, 230);
+const Color white(255, 255, 255);
+const Color black(0, 0, 0);
+
+// The settings of the next presses, kept fixed by the test.
+struct Fixed_Settings {
+    Fixed_Settings() : context(g_editor->drawing().context()), kept(context.settings) {
+        context.gather = [this] { return kept; };
+    }
+    ~Fixed_Settings() { context.gather = nullptr; }
+    Stroke_Context& context;
+    Tool_Settings kept;
+};
+}  // namespace
+
+TEST_F(Drawing, TheStampCentresTheBrushOnThePointerInItsOwnColours) {
+    use_tool(command_stamp_brush);
+    set_colors(red, blue);
+    g_tool_options->select_brush(1, 3);
+    stroke({{5, 5}});
+    for (int y = 4; y <= 6; ++y)
+        for (int x = 4; x <= 6; ++x) EXPECT_EQ(tile().get_pixel(x, y), white) << x << "," << y;
+    EXPECT_EQ(tile().get_pixel(7, 5), black);
+    EXPECT_EQ(tile().get_pixel(3, 5), black);
+    EXPECT_EQ(on_screen(4, 4), white);
+    EXPECT_TRUE(g_editor->current()->is_modified());
+}
+
+TEST_F(Drawing, TheStampsRightButtonUsesTheSecondColourAlongTheDrag) {
+    use_tool(command_stamp_brush);
+    set_colors(red, blue);
+    g_tool_options->select_brush(1, 3);
+    stroke({{5, 5}, {12, 5}}, SDL_BUTTON_RIGHT);
+    for (int x = 4; x <= 13; ++x) EXPECT_EQ(tile().get_pixel(x, 4), blue) << x;
+    EXPECT_EQ(tile().get_pixel(14, 5), black);
+    EXPECT_EQ(tile().get_pixel(5, 7), black);
+}
+
+TEST_F(Drawing, TheStampLeavesTheBrushesClearPixelsAlone) {
+    use_tool(command_pen);
+    set_colors(red, blue);
+    stroke({{8, 8}});
+    use_tool(command_stamp_brush);
+    g_tool_options->select_brush(5, 3);  // the ring: its middle is clear
+    stroke({{8, 8}});
+    EXPECT_EQ(tile().get_pixel(8, 8), red);
+    EXPECT_EQ(tile().get_pixel(8, 7), white);
+    EXPECT_EQ(tile().get_pixel(7, 7), black);
+}
+
+TEST_F(Drawing, TheStampInPatternModeRepeatsFromTheTilesCorner) {
+    use_tool(command_stamp_brush);
+    Fixed_Settings fixed;
+    Tile checker(2, 2);
+    checker.fill(Color(0, 0, 0, 0));
+    checker.set_pixel(0, 0, red);
+    checker.set_pixel(1, 1, blue);
+    fixed.kept.stamp = &checker;
+    fixed.kept.stamp_mode = 1;
+    stroke({{5, 5}, {9, 5}});
+    // Pixel (x, y) shows the image's (x mod 2, y mod 2) wherever it lies.
+    // A 2 x 2 image is stamped at its top-left pixel: rows 5 and 6, columns 5 to 10.
+    for (int x = 4; x <= 11; ++x) {
+        const bool inside = x >= 5 && x <= 10;
+        EXPECT_EQ(tile().get_pixel(x, 6), inside && x % 2 == 0 ? red : black) << x;
+        EXPECT_EQ(tile().get_pixel(x, 5), inside && x % 2 == 1 ? blue : black) << x;
+        EXPECT_EQ(tile().get_pixel(x, 4), black) << x;
+    }
+}
+
+TEST_F(Drawing, TheStampIsClippedToTheSelectionAndUndone) {
+    use_tool(command_stamp_brush);
+    g_tool_options->select_brush(1, 3);
+    Canvas_View& view = g_editor->canvas();
+    view.selection()->set_pixel(5, 5, white);
+    view.set_has_selection(true);
+    const int before = g_editor->current()->history().count();
+    stroke({{5, 5}});
+    EXPECT_EQ(tile().get_pixel(5, 5), white);
+    EXPECT_EQ(tile().get_pixel(4, 4), black);
+    EXPECT_EQ(g_editor->current()->history().count(), before + 1);
+    EXPECT_TRUE(g_editor->undo().undo());
+    EXPECT_EQ(tile().get_pixel(5, 5), black);
+}
+
+TEST_F(Drawing, TheSmudgeDragsAPixelAlongTheStroke) {
+    use_tool(command_pen);
+    set_colors(Color(200, 0, 0), blue);
+    stroke({{3, 3}});
+    use_tool(command_smudge_brush);
+    stroke({{3, 3}, {6, 3}});
+    EXPECT_EQ(tile().get_pixel(3, 3), Color(200, 0, 0));
+    EXPECT_EQ(tile().get_pixel(4, 3), Color(100, 0, 0));
+    EXPECT_EQ(tile().get_pixel(5, 3), Color(50, 0, 0));
+    EXPECT_EQ(tile().get_pixel(6, 3), Color(25, 0, 0));
+    EXPECT_EQ(on_screen(4, 3), Color(100, 0, 0));
+    EXPECT_TRUE(g_editor->undo().undo());
+    EXPECT_EQ(tile().get_pixel(4, 3), black);
+    EXPECT_EQ(tile().get_pixel(3, 3), Color(200, 0, 0));
+}
+
+TEST_F(Drawing, TheSmudgeCarriesWhatItsBrushCovers) {
+    use_tool(command_pen);
+    set_colors(white, blue);
+    stroke({{2, 2}, {2, 4}});
+    use_tool(command_smudge_brush);
+    g_tool_options->select_brush(1, 3);
+    Fixed_Settings fixed;
+    fixed.kept.brush = &g_tool_options->brush();
+    fixed.kept.smudge_strength = 256;
+    // The 3 x 3 brush takes up the white column with black either side and
+    // moves the whole picture two cells right.
+    stroke({{2, 3}, {4, 3}});
+    for (int y = 2; y <= 4; ++y) {
+        EXPECT_EQ(tile().get_pixel(4, y), white) << y;
+        EXPECT_EQ(tile().get_pixel(2, y), black) << y;
+        EXPECT_EQ(tile().get_pixel(5, y), black) << y;
+    }
+    EXPECT_EQ(tile().get_pixel(4, 1), black);
+}
+
+TEST_F(Drawing, TheSmudgeStaysInTheSelection) {
+    use_tool(command_pen);
+    set_colors(white, blue);
+    stroke({{2, 3}});
+    use_tool(command_smudge_brush);
+    Fixed_Settings fixed;
+    fixed.kept.smudge_strength = 256;
+    Canvas_View& view = g_editor->canvas();
+    for (int x = 0; x < 4; ++x) view.selection()->set_pixel(x, 3, white);
+    view.set_has_selection(true);
+    stroke({{2, 3}, {7, 3}});
+    EXPECT_EQ(tile().get_pixel(3, 3), white);
+    for (int x = 4; x <= 7; ++x) EXPECT_EQ(tile().get_pixel(x, 3), black) << x;
+}
