@@ -400,3 +400,34 @@ TEST_F(EditorTest, ThePositionReadoutFollowsThePointerOverTheTileOnly) {
     pump();
     EXPECT_FALSE(readout.visible());
 }
+
+TEST_F(EditorTest, MenusStayOpenOnSeparatorsAndCloseOnKeysOrTheBar) {
+    Menu_Bar& bar = g_editor->menus();
+    const Menu& file = bar.menu(0);
+    const Rectangle separator = file.items[1].area;  // " --- " under " New "
+    int open_after_separator = -2;
+    Event_Script script;
+    script.then([&] { push_click(separator.x + 5, separator.y + 5); })
+        .then([&] {
+            open_after_separator = bar.open_menu();
+            push_key(SDLK_N);  // any key closes and runs nothing
+        });
+    EXPECT_EQ(bar.track(SDL_Point{5, 5}, 0), -1);
+    EXPECT_EQ(open_after_separator, 0);
+    EXPECT_EQ(bar.open_menu(), -1);
+
+    // Sliding onto another title opens that menu; a press on the bar outside
+    // any drop-down closes it without a command.
+    int open_after_slide = -2;
+    const Rectangle help = bar.menu(5).title.area;
+    script.then([&] { push_motion(help.x + 3, 5); }).then([&] {
+        open_after_slide = bar.open_menu();
+        push_click(help.x + 3, 5);
+    });
+    EXPECT_EQ(bar.track(SDL_Point{5, 5}, 0), -1);
+    EXPECT_EQ(open_after_slide, 5);
+    // Drop-downs are 4 + 25 x rows - 1 pixels tall, one row per entry.
+    EXPECT_EQ(file.drop_area.height, 4 + 25 * 13 - 1);
+    EXPECT_EQ(file.items[12].command, command_quit);
+    EXPECT_EQ(bar.menu(1).items[9].command, command_use_as_brush);  // a row marked by a blank label
+}
