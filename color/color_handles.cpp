@@ -1,5 +1,7 @@
 #include "color/color_handles.h"
 
+#include <algorithm>
+
 #include "app/globals.h"
 #include "app/main_window.h"
 #include "ui/backdrop.h"
@@ -16,7 +18,7 @@ Color_Handles::Color_Handles(int x, int y) : Pane(Rectangle{x, y, 202, body_heig
     for (int i = 0; i < 3; ++i)
         small_buttons[i] = std::make_unique<Button_Dialog_Item>(Dialog_Item::no_id, Dialog_Item::no_id, small_kinds[i]);
     gradients.reset(Texture::from_pixels(g_main_window->renderer(), gradient_pixels, gradient_width,
-                                         Channel_Handles::row_count));
+                                         Channel_Handles::row_count * band));
     set_color(Color());
 }
 
@@ -45,6 +47,11 @@ void Color_Handles::refresh_gradients() {
         h.lightness = f;
         row[5 * gradient_width] = from_hsl(h);
     }
+    // Spread the six rows out into their bands, last first so nothing is overwritten early.
+    for (int r = Channel_Handles::row_count - 1; r >= 0; --r)
+        for (int k = band - 1; k >= 0; --k)
+            std::copy_n(gradient_pixels + r * gradient_width, gradient_width,
+                        gradient_pixels + (r * band + k) * gradient_width);
     gradients->update(gradient_pixels);
 }
 
@@ -69,8 +76,8 @@ void Color_Handles::draw() {
     const Color track_grey(128, 128, 128);
     for (int r = 0; r < Channel_Handles::row_count; ++r) {
         const Rectangle t = track_area(r);
-        gradients->source = SDL_FRect{0, float(r), float(gradient_width), 1};
-        gradients->destination = SDL_FRect{float(t.x + 1), float(t.y + 1), float(gradient_width), float(t.height - 2)};
+        gradients->source = SDL_FRect{0, float(r * band), float(gradient_width), float(band)};
+        gradients->destination = SDL_FRect{float(t.x + 1), float(t.y + 1), float(gradient_width), float(band)};
         gradients->draw();
         w.frame(t, track_grey);
         Button_Dialog_Item& h = *handle_buttons[r];

@@ -50,5 +50,8 @@ private:
     std::unique_ptr<Button_Dialog_Item> handle_buttons[Channel_Handles::row_count];
     std::unique_ptr<Button_Dialog_Item> small_buttons[3];
     std::unique_ptr<Texture> gradients;
-    Color gradient_pixels[Channel_Handles::row_count * 128];
+    // Each track's gradient as a band as tall as the track's inside, so that it
+    // is copied without scaling, which the software renderer does slowly.
+    static constexpr int band = row_spacing - 2;
+    Color gradient_pixels[Channel_Handles::row_count * band * 128];
 };
