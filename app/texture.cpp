@@ -6,7 +6,9 @@ Texture::Texture(SDL_Texture* texture, SDL_Renderer* renderer, int width, int he
     : source{0, 0, float(width), float(height)},
       destination{0, 0, float(width), float(height)},
       texture(texture),
-      renderer(renderer) {}
+      renderer(renderer),
+      texture_width(width),
+      texture_height(height) {}
 
 Texture::~Texture() { SDL_DestroyTexture(texture); }
 

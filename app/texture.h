@@ -24,8 +24,9 @@ public:
     void draw_at(int x, int y);
     void draw_in(const Rectangle& rect);
 
-    int width() const { return static_cast<int>(source.w); }
-    int height() const { return static_cast<int>(source.h); }
+    // The texture's own size; the stored rectangles may show only part of it.
+    int width() const { return texture_width; }
+    int height() const { return texture_height; }
     SDL_Texture* sdl() const { return texture; }
     SDL_FRect source{};
     SDL_FRect destination{};
@@ -35,4 +36,6 @@ private:
 
     SDL_Texture* texture;
     SDL_Renderer* renderer;
+    int texture_width;
+    int texture_height;
 };

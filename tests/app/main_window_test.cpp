@@ -116,9 +116,13 @@ TEST_F(MainWindow, PixelTexturesShowTheColoursTheyWereGiven) {
     EXPECT_EQ(read_pixel(301, 301), Color(1, 2, 3));
     // Updates replace the pixels in place, and draw_in scales.
     const Color changed[4] = {Color(255, 255, 0), Color(255, 255, 0), Color(255, 255, 0), Color(255, 255, 0)};
+    t->source = SDL_FRect{0, 0, 1, 1};  // showing only a part must not shrink the update
     t->update(changed);
+    t->source = SDL_FRect{0, 0, 2, 2};
     t->draw_in(Rectangle{310, 300, 8, 8});
     EXPECT_EQ(read_pixel(317, 307), Color(255, 255, 0));
+    EXPECT_EQ(t->width(), 2);
+    EXPECT_EQ(t->height(), 2);
     delete t;
 }
 
