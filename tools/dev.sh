@@ -45,7 +45,7 @@ install_missing
 sdl_prefix=$(bash "$root/tools/fetch_sdl3.sh" | tail -n 1)
 
 if [ "$cmd" = run ]; then
-    configure_and_build "$root/build" -DCMAKE_BUILD_TYPE=RelWithDebInfo -DMOSSWICK_TESTS=OFF
+    configure_and_build "$root/build" -DCMAKE_BUILD_TYPE=RelWithDebInfo -DMOSSWICK_TESTS=OFF -DMOSSWICK_BENCH=OFF
     exec "$root/tools/launcher.sh" "$root/build/mosswick"
 fi
 
