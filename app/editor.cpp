@@ -1,6 +1,7 @@
 #include "app/editor.h"
 
 #include <algorithm>
+#include <iterator>
 
 #include "app/canvas_view.h"
 #include "app/commands.h"
@@ -52,20 +53,21 @@ SDL_Keycode key_code(SDL_Keycode key) {
     }
 }
 
-// Fills the rectangle except where it meets the hole.
-void fill_around(Main_Window& w, const Rectangle& r, const Rectangle& hole, Color c) {
+// The parts of the rectangle outside the hole, appended at out; returns the new end.
+Rectangle* around(const Rectangle& r, const Rectangle& hole, Rectangle* out) {
     const int left = std::max(r.x, hole.x);
     const int top = std::max(r.y, hole.y);
     const int right = std::min(r.x + r.width, hole.x + hole.width);
     const int bottom = std::min(r.y + r.height, hole.y + hole.height);
     if (left >= right || top >= bottom) {
-        w.fill_rect(r, c);
-        return;
+        *out++ = r;
+        return out;
     }
-    w.fill_rect(Rectangle{r.x, r.y, r.width, top - r.y}, c);
-    w.fill_rect(Rectangle{r.x, bottom, r.width, r.y + r.height - bottom}, c);
-    w.fill_rect(Rectangle{r.x, top, left - r.x, bottom - top}, c);
-    w.fill_rect(Rectangle{right, top, r.x + r.width - right, bottom - top}, c);
+    *out++ = Rectangle{r.x, r.y, r.width, top - r.y};
+    *out++ = Rectangle{r.x, bottom, r.width, r.y + r.height - bottom};
+    *out++ = Rectangle{r.x, top, left - r.x, bottom - top};
+    *out++ = Rectangle{right, top, r.x + r.width - right, bottom - top};
+    return out;
 }
 
 uint32_t button_code(Uint8 sdl_button) {
@@ -188,10 +190,13 @@ void Editor::repaint(bool present) {
         body.y += Pane::header_height;
         body.height -= Pane::header_height;
     }
-    for (const Rectangle& r : background_rects) fill_around(w, r, body, ui_colors[background_color_index]);
+    Rectangle pieces[std::size(background_rects) * 4 + 2];
+    Rectangle* end = pieces;
+    for (const Rectangle& r : background_rects) end = around(r, body, end);
     // The rows below 632 and the window's last column belong to no rectangle.
-    w.fill_rect(Rectangle{0, 632, int(w.width()), int(w.height()) - 632}, ui_colors[background_color_index]);
-    w.fill_rect(Rectangle{1231, 0, int(w.width()) - 1231, 632}, ui_colors[background_color_index]);
+    *end++ = Rectangle{0, 632, int(w.width()), int(w.height()) - 632};
+    *end++ = Rectangle{1231, 0, int(w.width()) - 1231, 632};
+    w.fill_opaque(pieces, int(end - pieces), ui_colors[background_color_index]);
     if (g_tool_options) g_tool_options->draw();
     menu_bar->draw(SDL_Point{int(pointer_x), int(pointer_y)});
     tool_bar->draw();

@@ -59,6 +59,27 @@ void Main_Window::fill_rect(const Rectangle& rect, Color c) {
     if (plain) SDL_SetRenderDrawBlendMode(sdl_renderer, SDL_BLENDMODE_BLEND);
 }
 
+void Main_Window::fill_opaque(const Rectangle& rect, Color c) {
+    set_color(c);
+    scratch = {float(rect.x), float(rect.y), float(rect.width), float(rect.height)};
+    SDL_SetRenderDrawBlendMode(sdl_renderer, SDL_BLENDMODE_NONE);
+    SDL_RenderFillRect(sdl_renderer, &scratch);
+    SDL_SetRenderDrawBlendMode(sdl_renderer, SDL_BLENDMODE_BLEND);
+}
+
+void Main_Window::fill_opaque(const Rectangle* rects, int count, Color c) {
+    scratch_rects.clear();
+    for (int i = 0; i < count; ++i)
+        if (rects[i].width > 0 && rects[i].height > 0)
+            scratch_rects.push_back(
+                {float(rects[i].x), float(rects[i].y), float(rects[i].width), float(rects[i].height)});
+    if (scratch_rects.empty()) return;
+    set_color(c);
+    SDL_SetRenderDrawBlendMode(sdl_renderer, SDL_BLENDMODE_NONE);
+    SDL_RenderFillRects(sdl_renderer, scratch_rects.data(), int(scratch_rects.size()));
+    SDL_SetRenderDrawBlendMode(sdl_renderer, SDL_BLENDMODE_BLEND);
+}
+
 void Main_Window::line(int x1, int y1, int x2, int y2, Color c) {
     set_color(c);
     SDL_RenderLine(sdl_renderer, float(x1), float(y1), float(x2), float(y2));

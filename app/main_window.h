@@ -5,6 +5,7 @@
 #include <cstdint>
 #include <memory>
 #include <string>
+#include <vector>
 
 #include "color/color.h"
 #include "ui/fonts.h"
@@ -41,6 +42,11 @@ public:
     const char* renderer_name() const;
 
     void fill_rect(const Rectangle& rect, Color c);
+    // Fills without blending whatever the size; the colour must be opaque.
+    void fill_opaque(const Rectangle& rect, Color c);
+    // As one unblended draw: each switch of the blend mode costs far more
+    // than the fill itself. Empty rectangles are skipped.
+    void fill_opaque(const Rectangle* rects, int count, Color c);
     void line(int x1, int y1, int x2, int y2, Color c);
     void point(int x, int y, Color c);
     // length / 2 points, two steps apart; skip_first starts one step in, so
@@ -93,6 +99,7 @@ private:
     std::unique_ptr<Texture> sheet_texture;
     SDL_FRect scratch{};
     SDL_FRect scratch_source{};
+    std::vector<SDL_FRect> scratch_rects;
     std::unique_ptr<Image_Pool> image_pool;
     std::unique_ptr<Text_Writer> writers[font_count];
 };

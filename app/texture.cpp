@@ -51,6 +51,10 @@ void Texture::update(const Color* pixels) {
     SDL_UnlockTexture(texture);
 }
 
+void Texture::set_opaque(bool opaque) {
+    SDL_SetTextureBlendMode(texture, opaque ? SDL_BLENDMODE_NONE : SDL_BLENDMODE_BLEND);
+}
+
 void Texture::draw() { SDL_RenderTexture(renderer, texture, &source, &destination); }
 
 void Texture::draw_at(int x, int y) {

@@ -10,11 +10,7 @@ constexpr Color white(255, 255, 255);
 
 // The brushes are white and light grey, so the buttons have dark faces to
 // show them on the light pane bodies; the current one is darker and sunken.
-void draw_button(const Rectangle& r, bool on) {
-    Main_Window& w = *g_main_window;
-    w.fill_rect(r, on ? ui_colors[4] : ui_colors[9]);
-    w.bevel(r, light_grey, on);
-}
+void draw_bevel(const Rectangle& r, bool on) { g_main_window->bevel(r, light_grey, on); }
 }  // namespace
 
 Brush_Selector::Brush_Selector()
@@ -73,22 +69,53 @@ void Brush_Selector::draw_brush(const Brush& b, int left, int top, Color c) {
             if (b.is_set(x, y)) w.fill_rect(Rectangle{left + 2 * x, top + 2 * y, 2, 2}, c);
 }
 
+void Brush_Selector::build_faces() {
+    constexpr int count = Built_In_Brushes::shape_count + Built_In_Brushes::size_count;
+    constexpr int width = count * button_size;
+    face_pixels.assign(size_t(width * button_size), Color());
+    // One face, filled like a button, with the brush at (left, top) in 2 x 2 pixels.
+    auto face = [&](int index, bool on, const Brush& b, int left, int top) {
+        const Color face_color = on ? ui_colors[4] : ui_colors[9];
+        const Color brush_color = on ? white : light_grey;
+        for (int y = 0; y < button_size; ++y)
+            for (int x = 0; x < button_size; ++x) {
+                const int bx = (x - left) / 2;
+                const int by = (y - top) / 2;
+                const bool set = x >= left && y >= top && bx < b.size() && by < b.size() && b.is_set(bx, by);
+                face_pixels[size_t(y * width + index * button_size + x)] = set ? brush_color : face_color;
+            }
+    };
+    for (int s = 0; s < Built_In_Brushes::shape_count; ++s) face(s, s == current_shape, brushes.get(s, 6), 3, 3);
+    for (int k = 1; k <= Built_In_Brushes::size_count; ++k)
+        face(Built_In_Brushes::shape_count + k - 1, k == size(), brushes.get(current_shape, k), 9 - k, 9 - k);
+    if (!faces) {
+        faces.reset(Texture::from_pixels(g_main_window->renderer(), face_pixels.data(), width, button_size));
+        faces->set_opaque(true);
+    } else {
+        faces->update(face_pixels.data());
+    }
+    faces_shape = current_shape;
+    faces_size = size_index;
+}
+
+// The faces are copied a row at a time rather than filled pixel by pixel:
+// the same picture at a fraction of the draw calls.
 void Brush_Selector::draw() {
+    if (faces_shape != current_shape || faces_size != size_index) build_faces();
+    constexpr int shape_width = Built_In_Brushes::shape_count * button_size;
+    constexpr int size_width = Built_In_Brushes::size_count * button_size;
     shapes->draw();
-    for (int s = 0; s < Built_In_Brushes::shape_count; ++s) {
-        const Rectangle r = shape_button(s);
-        const bool on = s == current_shape;
-        draw_button(r, on);
-        draw_brush(brushes.get(s, 6), r.x + 3, r.y + 3, on ? white : light_grey);
-    }
+    const Rectangle first_shape = shape_button(0);
+    faces->source = SDL_FRect{0, 0, float(shape_width), float(button_size)};
+    faces->destination = SDL_FRect{float(first_shape.x), float(first_shape.y), float(shape_width), float(button_size)};
+    faces->draw();
+    for (int s = 0; s < Built_In_Brushes::shape_count; ++s) draw_bevel(shape_button(s), s == current_shape);
     sizes->draw();
-    for (int k = 1; k <= Built_In_Brushes::size_count; ++k) {
-        const Rectangle r = size_button(k);
-        const bool on = k == size();
-        const int o = 7 - k;
-        draw_button(r, on);
-        draw_brush(brushes.get(current_shape, k), r.x + o + 2, r.y + o + 2, on ? white : light_grey);
-    }
+    const Rectangle first_size = size_button(1);
+    faces->source = SDL_FRect{float(shape_width), 0, float(size_width), float(button_size)};
+    faces->destination = SDL_FRect{float(first_size.x), float(first_size.y), float(size_width), float(button_size)};
+    faces->draw();
+    for (int k = 1; k <= Built_In_Brushes::size_count; ++k) draw_bevel(size_button(k), k == size());
 }
 
 bool Brush_Selector::click_shape(int x, int y) {

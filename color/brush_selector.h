@@ -1,7 +1,9 @@
 #pragma once
 
 #include <memory>
+#include <vector>
 
+#include "app/texture.h"
 #include "color/brushes.h"
 #include "ui/pane.h"
 
@@ -45,6 +47,7 @@ public:
 
 private:
     void recolor();
+    void build_faces();
 
     Built_In_Brushes brushes;
     int current_shape = 0;
@@ -54,4 +57,10 @@ private:
     std::unique_ptr<Tile> tinted;
     std::unique_ptr<Pane> shapes;
     std::unique_ptr<Pane> sizes;
+    // The faces of the shape buttons then the size buttons, side by side,
+    // with their brushes: they depend only on the current shape and size.
+    std::unique_ptr<Texture> faces;
+    std::vector<Color> face_pixels;
+    int faces_shape = -1;
+    int faces_size = -1;
 };

@@ -78,6 +78,8 @@ void Color_Handles::draw() {
         const Rectangle t = track_area(r);
         gradients->source = SDL_FRect{0, float(r * band), float(gradient_width), float(band)};
         gradients->destination = SDL_FRect{float(t.x + 1), float(t.y + 1), float(gradient_width), float(band)};
+        // Only the alpha track's gradient is translucent.
+        gradients->set_opaque(r != Channel_Handles::alpha);
         gradients->draw();
         w.frame(t, track_grey);
         Button_Dialog_Item& h = *handle_buttons[r];

@@ -22,6 +22,9 @@ HSV_Selector::HSV_Selector(int x, int y)
     SDL_Renderer* r = g_main_window->renderer();
     strip_texture.reset(Texture::from_pixels(r, strip.data(), strip_width, side));
     square_texture.reset(Texture::from_pixels(r, square.data(), side, side));
+    // Both are built fully opaque.
+    strip_texture->set_opaque(true);
+    square_texture->set_opaque(true);
     set_hue_color(Color());
 }
 

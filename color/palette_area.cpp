@@ -1,5 +1,7 @@
 #include "color/palette_area.h"
 
+#include <algorithm>
+
 #include "app/globals.h"
 #include "app/main_window.h"
 #include "app/ui_colors.h"
@@ -21,6 +23,8 @@ Palette_Area::Palette_Area(int x, int y, int page, int cell_size_code, int colum
     place_cells();
 }
 
+Palette_Area::~Palette_Area() = default;
+
 bool Palette_Area::has_page() const { return shown_page >= 0 && shown_page < g_palette->page_count(); }
 
 // Colours past the grid keep the point (0, 0) and are drawn over the first cell.
@@ -37,9 +41,42 @@ void Palette_Area::show_page(int new_page) {
     place_cells();
 }
 
+// Builds the grid image when every colour is opaque and the cells lie inside
+// the client area; false leaves the cells to be filled one by one.
+bool Palette_Area::compose_cells() {
+    const int width = client.width;
+    const int height = client.height - 1;
+    if (width <= 0 || height <= 0) return false;
+    current.clear();
+    for (size_t i = 0; i < cells.size(); ++i) {
+        const Color c = g_palette->color(shown_page, int(i));
+        if (c.alpha != 255) return false;
+        if (cells[i].x + cell > width || cells[i].y + cell > height) return false;
+        current.push_back(c);
+    }
+    // The image depends only on the colours in order: the cells' places follow from their indices.
+    if (grid && grid->width() == width && grid->height() == height && current == grid_colors) return true;
+    grid_pixels.assign(size_t(width * height), ui_colors[4]);
+    for (size_t i = 0; i < current.size(); ++i)
+        for (int y = cells[i].y; y < cells[i].y + cell; ++y)
+            std::fill_n(grid_pixels.begin() + (y * width + cells[i].x), cell, current[i]);
+    if (!grid || grid->width() != width || grid->height() != height) {
+        grid.reset(Texture::from_pixels(g_main_window->renderer(), grid_pixels.data(), width, height));
+        grid->set_opaque(true);
+    } else {
+        grid->update(grid_pixels.data());
+    }
+    grid_colors = current;
+    return true;
+}
+
 void Palette_Area::draw() {
     Pane::draw();
     Main_Window& w = *g_main_window;
+    if (compose_cells()) {
+        grid->draw_at(client.x, client.y);
+        return;
+    }
     w.fill_rect(Rectangle{client.x, client.y, client.width, client.height - 1}, ui_colors[4]);
     for (size_t i = 0; i < cells.size(); ++i) {
         scratch = Rectangle{client.x + cells[i].x, client.y + cells[i].y, cell, cell};

@@ -1,7 +1,9 @@
 #pragma once
 
+#include <memory>
 #include <vector>
 
+#include "app/texture.h"
 #include "ui/pane.h"
 
 // One page of the palette as a grid of colour cells, titled with the page's name.
@@ -11,6 +13,7 @@ public:
     static constexpr int cell_sizes[3] = {24, 18, 18};
 
     Palette_Area(int x, int y, int page, int cell_size_code, int columns, int rows);
+    ~Palette_Area() override;
 
     void draw() override;
     // The cell under a window point; callers ask only for points inside the pane.
@@ -25,6 +28,7 @@ public:
 
 private:
     void place_cells();
+    bool compose_cells();
 
     int shown_page;
     int cell;
@@ -32,4 +36,10 @@ private:
     int rows;
     std::vector<SDL_Point> cells;
     Rectangle scratch{};
+    // The grid as one opaque image, rebuilt whenever the colours it shows
+    // differ from those it was built from.
+    std::unique_ptr<Texture> grid;
+    std::vector<Color> grid_colors;
+    std::vector<Color> grid_pixels;
+    std::vector<Color> current;
 };

@@ -12,11 +12,17 @@ Swatch::Swatch(int width, int height) {
         for (int x = 0; x < width; ++x)
             pixels[size_t(y * width + x)] = ((x / square + y / square) % 2) ? ui_colors[18] : ui_colors[19];
     board.reset(Texture::from_pixels(g_main_window->renderer(), pixels.data(), width, height));
+    board->set_opaque(true);
 }
 
 Swatch::~Swatch() = default;
 
 void Swatch::draw(const Rectangle& rect, Color c) {
+    // An opaque colour hides the board entirely.
+    if (c.alpha == 255) {
+        g_main_window->fill_opaque(rect, c);
+        return;
+    }
     const float w = float(rect.width < board->width() ? rect.width : board->width());
     const float h = float(rect.height < board->height() ? rect.height : board->height());
     board->source = SDL_FRect{0, 0, w, h};

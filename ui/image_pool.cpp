@@ -3,6 +3,18 @@
 #include "app/texture.h"
 #include "app/ui_colors.h"
 
+namespace {
+// An ARGB8888 surface with no translucent pixel can be copied without blending.
+bool fully_opaque(const SDL_Surface* surface) {
+    for (int y = 0; y < surface->h; ++y) {
+        const Uint32* row = reinterpret_cast<const Uint32*>(static_cast<const Uint8*>(surface->pixels) + y * surface->pitch);
+        for (int x = 0; x < surface->w; ++x)
+            if ((row[x] >> 24) != 0xff) return false;
+    }
+    return true;
+}
+}  // namespace
+
 Image_Pool::Image_Pool() : Image_Pool("pool.bmp") {}
 
 Image_Pool::Image_Pool(const char* file_name)
@@ -102,6 +114,7 @@ Texture* Image_Pool::make_header(SDL_Renderer* renderer, int width, const char* 
     blit_sprite(end_cap, left + width, 0, surface);
     blit_text(font, title, left, 1, surface);
     Texture* texture = Texture::from_surface(renderer, surface);
+    texture->set_opaque(fully_opaque(surface));
     SDL_DestroySurface(surface);
     return texture;
 }

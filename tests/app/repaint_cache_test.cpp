@@ -1,0 +1,101 @@
+// Panes that keep a picture between repaints must show every change on the
+// very next repaint.
+#include <gtest/gtest.h>
+
+#include "app/editor.h"
+#include "app/ui_colors.h"
+#include "color/brush_selector.h"
+#include "color/color_tools.h"
+#include "color/palette.h"
+#include "color/palette_area.h"
+#include "document/tool_options.h"
+#include "support/headless.h"
+
+namespace {
+class RepaintCache : public Headless {
+protected:
+    void SetUp() override {
+        Headless::SetUp();
+        ASSERT_TRUE(g_editor->begin());
+        drop_pending_events();
+    }
+    static Palette_Area& palette() { return g_tool_options->color_tools().palette_area(); }
+    static SDL_Point cell_centre(int index) {
+        const Rectangle c = palette().client_area();
+        const int s = palette().cell_size();
+        return SDL_Point{c.x + (index % 8) * s + s / 2, c.y + (index / 8) * s + s / 2};
+    }
+};
+}  // namespace
+
+TEST_F(RepaintCache, APaletteColourChangeShowsOnTheNextRepaint) {
+    const SDL_Point p = cell_centre(5);
+    g_editor->repaint(false);
+    EXPECT_EQ(read_pixel(p.x, p.y), g_palette->color(0, 5));
+    g_palette->set_color(0, 5, Color(12, 200, 34));
+    g_editor->repaint(false);
+    EXPECT_EQ(read_pixel(p.x, p.y), Color(12, 200, 34));
+    EXPECT_EQ(read_pixel(cell_centre(6).x, cell_centre(6).y), g_palette->color(0, 6));
+}
+
+TEST_F(RepaintCache, ATranslucentPaletteColourIsBlendedOverTheCellBackground) {
+    const SDL_Point p = cell_centre(2);
+    g_palette->set_color(0, 2, Color(255, 255, 255, 0));
+    g_editor->repaint(false);
+    EXPECT_EQ(read_pixel(p.x, p.y), ui_colors[4]);
+    g_palette->set_color(0, 2, Color(1, 2, 3));
+    g_editor->repaint(false);
+    EXPECT_EQ(read_pixel(p.x, p.y), Color(1, 2, 3));
+}
+
+TEST_F(RepaintCache, ShowingAnotherPageShowsItsColours) {
+    ASSERT_GT(g_palette->page_count(), 1);
+    const SDL_Point p = cell_centre(0);
+    g_palette->set_color(1, 0, Color(90, 10, 10));
+    g_palette->set_color(0, 0, Color(10, 90, 10));
+    g_editor->repaint(false);
+    EXPECT_EQ(read_pixel(p.x, p.y), Color(10, 90, 10));
+    palette().show_page(1);
+    g_editor->repaint(false);
+    EXPECT_EQ(read_pixel(p.x, p.y), Color(90, 10, 10));
+}
+
+TEST_F(RepaintCache, TheBrushButtonsFollowTheCurrentShapeAndSize) {
+    Brush_Selector& b = g_tool_options->brushes();
+    // A point of each button's face that no brush and no bevel covers.
+    auto face = [](const Rectangle& r) { return read_pixel(r.x + 2, r.y + r.height / 2); };
+    b.set_brush(0, 1);
+    g_editor->repaint(false);
+    EXPECT_EQ(face(b.size_button(1)), ui_colors[4]);
+    EXPECT_EQ(face(b.size_button(3)), ui_colors[9]);
+    b.set_brush(2, 3);
+    g_editor->repaint(false);
+    EXPECT_EQ(face(b.size_button(1)), ui_colors[9]);
+    EXPECT_EQ(face(b.size_button(3)), ui_colors[4]);
+    EXPECT_EQ(face(b.shape_button(2)), ui_colors[4]);
+    EXPECT_EQ(face(b.shape_button(0)), ui_colors[9]);
+}
+
+TEST_F(RepaintCache, TheSizeButtonsShowTheCurrentShape) {
+    Brush_Selector& b = g_tool_options->brushes();
+    const Built_In_Brushes all;
+    const Brush& round = all.get(0, 6);
+    const Brush& other = all.get(2, 6);
+    int x = 0;
+    int y = 0;
+    while (round.is_set(x, y) == other.is_set(x, y)) {
+        if (++x == 6) {
+            x = 0;
+            ASSERT_LT(++y, 6);
+        }
+    }
+    // The 6-pixel brush lies 3 pixels inside its button, 2 x 2 screen pixels a brush pixel.
+    const Rectangle six = b.size_button(6);
+    auto shown = [&](const Brush& brush) { return brush.is_set(x, y) ? Color(200, 200, 200) : ui_colors[9]; };
+    b.set_brush(0, 1);
+    g_editor->repaint(false);
+    EXPECT_EQ(read_pixel(six.x + 3 + 2 * x, six.y + 3 + 2 * y), shown(round));
+    b.set_brush(2, 1);
+    g_editor->repaint(false);
+    EXPECT_EQ(read_pixel(six.x + 3 + 2 * x + 1, six.y + 3 + 2 * y + 1), shown(other));
+}
