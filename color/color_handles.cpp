@@ -4,7 +4,7 @@
 
 #include "app/globals.h"
 #include "app/main_window.h"
-#include "ui/backdrop.h"
+#include "ui/drag_loop.h"
 #include "ui/wait_for_key.h"
 
 namespace {
@@ -116,19 +116,13 @@ bool Color_Handles::click_button(int x, int y) {
 void Color_Handles::drag(int row, int b) {
     Main_Window& w = *g_main_window;
     w.relative_mouse(true);
-    SDL_Event event;
-    while (true) {
-        Backdrop::paint();
-        w.present();
-        if (!SDL_WaitEvent(&event)) break;
-        if (event.type == SDL_EVENT_MOUSE_BUTTON_UP || event.type == SDL_EVENT_QUIT) break;
-        if (event.type != SDL_EVENT_MOUSE_MOTION) continue;
-        const int d = int(event.motion.xrel);
-        if (d == 0) continue;
+    run_drag([&](const SDL_MouseMotionEvent& motion) {
+        const int d = int(motion.xrel);
+        if (d == 0) return;
         const Color c = model.step(row, d);
         refresh_gradients();
         if (changed) changed(b, c);
-    }
+    });
     w.relative_mouse(false);
     const Rectangle h = handle_area(row);
     w.warp(h.x + h.width / 2, h.y + h.height / 2);

@@ -6,6 +6,7 @@
 #include "app/main_window.h"
 #include "app/sprites.h"
 #include "ui/backdrop.h"
+#include "ui/drag_loop.h"
 #include "ui/wait_for_key.h"
 
 using namespace hue_square;
@@ -71,21 +72,15 @@ bool HSV_Selector::mouse_down(int button, int x, int y) {
     pick(in_strip, button, x, y);
     {
         const Backdrop_Layer layer(paint_crosshairs, this);
-        SDL_Event event;
-        while (true) {
-            Backdrop::paint();
-            w.present();
-            if (!SDL_WaitEvent(&event)) break;
-            if (event.type == SDL_EVENT_MOUSE_BUTTON_UP || event.type == SDL_EVENT_QUIT) break;
-            if (event.type != SDL_EVENT_MOUSE_MOTION) continue;
-            const int mx = int(event.motion.x);
-            const int my = int(event.motion.y);
+        run_drag([&](const SDL_MouseMotionEvent& motion) {
+            const int mx = int(motion.x);
+            const int my = int(motion.y);
             // The pointer is held inside the part the drag began in.
             const int px = std::clamp(mx, limit.x, limit.x + limit.width - 1);
             const int py = std::clamp(my, limit.y, limit.y + limit.height - 1);
             if (px != mx || py != my) w.warp(px, py);
             pick(in_strip, button, px, py);
-        }
+        });
     }
     flush_events();
     w.show_cursor(true);
