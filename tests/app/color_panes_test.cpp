@@ -7,21 +7,12 @@
 #include "color/color_tools.h"
 #include "color/palette.h"
 #include "document/tool_options.h"
-#include "support/headless.h"
+#include "support/editor_fixture.h"
 #include "tests/ui/event_script.h"
 
 namespace {
-class ColorPanes : public Headless {
+class ColorPanes : public Editor_Fixture {
 protected:
-    void SetUp() override {
-        Headless::SetUp();
-        ASSERT_TRUE(g_editor->begin());
-        drop_pending_events();
-    }
-    static void pump() {
-        SDL_Event e;
-        while (SDL_PollEvent(&e)) g_editor->handle(e);
-    }
     static Color_Tools& tools() { return g_tool_options->color_tools(); }
     static SDL_Point centre(const Rectangle& r) { return SDL_Point{r.x + r.width / 2, r.y + r.height / 2}; }
 };

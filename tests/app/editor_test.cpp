@@ -12,7 +12,7 @@
 #include "app/stroke_action.h"
 #include "app/tileset_tabs.h"
 #include "app/tool_bar.h"
-#include "support/headless.h"
+#include "support/editor_fixture.h"
 #include "ui/event_script.h"
 #include "ui/dialog.h"
 #include "ui/menu_bar.h"
@@ -52,21 +52,11 @@ struct Recording_Action : Stroke_Action {
 };
 }  // namespace
 
-class EditorTest : public Headless {
+class EditorTest : public Editor_Fixture {
 protected:
-    void SetUp() override {
-        Headless::SetUp();
-        ASSERT_TRUE(g_editor->begin());
-        drop_pending_events();
-    }
     void TearDown() override {
         set_file_chooser(nullptr);
         Headless::TearDown();
-    }
-    // Hands every queued event to the editor, as its loop would.
-    static void pump() {
-        SDL_Event e;
-        while (SDL_PollEvent(&e)) g_editor->handle(e);
     }
     static SDL_Point cell_centre(int tx, int ty) {
         const Canvas_View& c = g_editor->canvas();

@@ -12,7 +12,7 @@
 #include "app/main_window.h"
 #include "app/sprites.h"
 #include "document/tileset.h"
-#include "support/headless.h"
+#include "support/editor_fixture.h"
 #include "ui/image_pool.h"
 
 namespace {
@@ -21,17 +21,8 @@ constexpr int cell_centre_y = strip_y + 12;
 int cell_centre_x(int cell) { return 4 + cell * 24 + 12; }
 }  // namespace
 
-class NavigationTest : public Headless {
+class NavigationTest : public Editor_Fixture {
 protected:
-    void SetUp() override {
-        Headless::SetUp();
-        ASSERT_TRUE(g_editor->begin());
-        drop_pending_events();
-    }
-    static void pump() {
-        SDL_Event e;
-        while (SDL_PollEvent(&e)) g_editor->handle(e);
-    }
     static Tileset& tileset() { return *g_editor->current(); }
     static Tile_Store& store() { return tileset().store(); }
     static Tile_Navigation_Pane& pane() { return *static_cast<Tile_Navigation_Pane*>(tileset().navigation()); }
