@@ -2,27 +2,30 @@
 
 #include <unistd.h>
 
+#include <cerrno>
 #include <cstdio>
+#include <cstdlib>
 #include <filesystem>
 #include <fstream>
 #include <iterator>
 #include <string>
 #include <vector>
 
-// A fresh directory for one test's files, removed with everything in it.
+// A fresh directory for one test's files, removed with everything in it. The name is
+// made unique by mkdtemp: a death test's child ends without unwinding and leaves its
+// directory behind, and a reused name would meet those stale files.
 class Scratch_Dir {
 public:
     Scratch_Dir() {
-        static int serial = 0;
-        dir = std::filesystem::temp_directory_path() /
-              ("mosswick_test_" + std::to_string(getpid()) + "_" + std::to_string(serial++));
-        std::filesystem::create_directories(dir);
+        std::string pattern =
+            (std::filesystem::temp_directory_path() / "mosswick_test_XXXXXX").string();
+        if (mkdtemp(pattern.data()) == nullptr)
+            throw std::filesystem::filesystem_error("mkdtemp", pattern,
+                                                    std::error_code(errno, std::generic_category()));
+        dir = pattern;
     }
     ~Scratch_Dir() {
-        std::error_code ignored;
-        std::filesystem::permissions(dir, std::filesystem::perms::owner_all,
-                                     std::filesystem::perm_options::add, ignored);
-        std::filesystem::remove_all(dir, ignored);
+        remove(dir);
     }
     Scratch_Dir(const Scratch_Dir&) = delete;
     Scratch_Dir& operator=(const Scratch_Dir&) = delete;
@@ -31,6 +34,13 @@ public:
     const std::filesystem::path& path() const { return dir; }
 
 private:
+    static void remove(const std::filesystem::path& path) {
+        std::error_code ignored;
+        std::filesystem::permissions(path, std::filesystem::perms::owner_all,
+                                     std::filesystem::perm_options::add, ignored);
+        std::filesystem::remove_all(path, ignored);
+    }
+
     std::filesystem::path dir;
 };
 
