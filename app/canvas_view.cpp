@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <cstring>
 
+#include "app/draw_sink.h"
+
 #include "app/globals.h"
 #include "app/main_window.h"
 #include "app/ui_colors.h"
@@ -228,23 +230,70 @@ void Canvas_View::draw(Main_Window& window) {
         SDL_SetTextureScaleMode(picture_texture, SDL_SCALEMODE_NEAREST);
     }
     compose_cells();
-
-    // One screen row is composed per run of identical rows: each tile row is
-    // s - 1 rows of cell insides and one row of grid, and copies do the rest.
+    // The picture goes to the screen as one band per tile row, each with its
+    // own generation: a stroke uploads and draws again only the rows it changed.
+    const Picture_Key key{Rectangle{left, top, right - left, bottom - top}, origin_x, origin_y, s, shown->width()};
+    const bool all = key != shown_key || shown_inside.size() != cells;
+    if (all) {
+        shown_key = key;
+        shown_inside.assign(cells, 0);
+        shown_grid.assign(cells, 0);
+        band_generation.assign(size_t(shown->height()), 0);
+    }
     const int w = shown->width();
+    const int first_row = (top - origin_y) / s;
+    const int last_row = (bottom - 1 - origin_y) / s;
+    for (int ty = first_row; ty <= last_row; ++ty) {
+        const auto from = cell_inside.begin() + std::ptrdiff_t(ty * w);
+        const auto grid_from = cell_grid.begin() + std::ptrdiff_t(ty * w);
+        const auto shown_from = shown_inside.begin() + std::ptrdiff_t(ty * w);
+        const auto shown_grid_from = shown_grid.begin() + std::ptrdiff_t(ty * w);
+        if (all || !std::equal(from, from + w, shown_from) || !std::equal(grid_from, grid_from + w, shown_grid_from)) {
+            std::copy(from, from + w, shown_from);
+            std::copy(grid_from, grid_from + w, shown_grid_from);
+            upload_band(key, ty);
+        }
+        const int y0 = std::max(top, origin_y + ty * s);
+        const int y1 = std::min(bottom, origin_y + (ty + 1) * s);
+        const SDL_FRect picture_part{float(left - view.x), float(y0 - view.y), float(right - left), float(y1 - y0)};
+        const SDL_FRect screen_part{float(left), float(y0), float(right - left), float(y1 - y0)};
+        window.sink().copy(picture_texture, band_generation[size_t(ty)], false, picture_part, screen_part);
+    }
+
+    // Edge pieces only where a selection or a seam needs them.
+    if (!selection_on && !second_on && seam_h < 0 && seam_v < 0) return;
+    window.clip(view);
+    const int first_x = std::max(0, floor_div(view.x - origin_x, s));
+    const int first_y = std::max(0, floor_div(view.y - origin_y, s));
+    const int last_x = std::min(shown->width() - 1, floor_div(view.x + view.width - 1 - origin_x, s));
+    const int last_y = std::min(shown->height() - 1, floor_div(view.y + view.height - 1 - origin_y, s));
+    for (int ty = first_y; ty <= last_y; ++ty)
+        for (int tx = first_x; tx <= last_x; ++tx) draw_cell_marks(window, tx, ty, origin_x + tx * s, origin_y + ty * s);
+    window.end_clip();
+}
+
+// Expands one tile row of composed cells to screen pixels inside the key's
+// area and uploads them. Each screen row is composed once per run of identical
+// rows: s - 1 rows of cell insides and one row of grid, and copies do the rest.
+void Canvas_View::upload_band(const Picture_Key& key, int ty) {
+    const int s = key.cell_size;
+    const int left = key.area.x;
+    const int right = left + key.area.width;
+    const int top = std::max(key.area.y, key.origin_y + ty * s);
+    const int bottom = std::min(key.area.y + key.area.height, key.origin_y + (ty + 1) * s);
+    const int w = key.tile_width;
     const size_t stride = size_t(view.width);
     const size_t span = size_t(right - left);
+    const uint32_t* inside = &cell_inside[size_t(ty * w)];
+    const uint32_t* grid = &cell_grid[size_t(ty * w)];
     for (int y = top; y < bottom;) {
-        const int ty = (y - origin_y) / s;
-        const int iy = (y - origin_y) % s;
+        const int iy = (y - key.origin_y) % s;
         const bool grid_row = iy == s - 1;
         const int run = std::min(bottom - y, grid_row ? 1 : s - 1 - iy);
-        const uint32_t* inside = &cell_inside[size_t(ty * w)];
-        const uint32_t* grid = &cell_grid[size_t(ty * w)];
         uint32_t* row = &picture[size_t(y - view.y) * stride + size_t(left - view.x)];
         uint32_t* out = row;
-        int tx = (left - origin_x) / s;
-        int ix = (left - origin_x) % s;
+        int tx = (left - key.origin_x) / s;
+        int ix = (left - key.origin_x) % s;
         for (int x = left; x < right; ++x) {
             *out++ = (grid_row || ix == s - 1) ? grid[tx] : inside[tx];
             if (++ix == s) {
@@ -256,23 +305,9 @@ void Canvas_View::draw(Main_Window& window) {
         y += run;
     }
     const SDL_Rect area{left - view.x, top - view.y, right - left, bottom - top};
-    const uint32_t* first = &picture[size_t(area.y) * size_t(view.width) + size_t(area.x)];
+    const uint32_t* first = &picture[size_t(area.y) * stride + size_t(area.x)];
     SDL_UpdateTexture(picture_texture, &area, first, view.width * 4);
-    const SDL_FRect from{float(area.x), float(area.y), float(area.w), float(area.h)};
-    const SDL_FRect to{float(left), float(top), float(area.w), float(area.h)};
-    SDL_RenderTexture(window.renderer(), picture_texture, &from, &to);
-
-    // Edge pieces only where a selection or a seam needs them.
-    if (!selection_on && !second_on && seam_h < 0 && seam_v < 0) return;
-    SDL_Rect clip{view.x, view.y, view.width, view.height};
-    SDL_SetRenderClipRect(window.renderer(), &clip);
-    const int first_x = std::max(0, floor_div(view.x - origin_x, s));
-    const int first_y = std::max(0, floor_div(view.y - origin_y, s));
-    const int last_x = std::min(shown->width() - 1, floor_div(view.x + view.width - 1 - origin_x, s));
-    const int last_y = std::min(shown->height() - 1, floor_div(view.y + view.height - 1 - origin_y, s));
-    for (int ty = first_y; ty <= last_y; ++ty)
-        for (int tx = first_x; tx <= last_x; ++tx) draw_cell_marks(window, tx, ty, origin_x + tx * s, origin_y + ty * s);
-    SDL_SetRenderClipRect(window.renderer(), nullptr);
+    band_generation[size_t(ty)] = Draw_Sink::fresh_generation();
 }
 
 void Canvas_View::draw_cell_marks(Main_Window& window, int tx, int ty, int px, int py) {

@@ -127,4 +127,20 @@ private:
     std::vector<uint32_t> cell_grid;
     std::vector<uint32_t> picture;
     SDL_Texture* picture_texture = nullptr;
+    // What the texture shows: the picture is a function of these and the
+    // composed cells alone, so a repaint that composes the same cells at the
+    // same place uploads nothing.
+    struct Picture_Key {
+        Rectangle area;
+        int origin_x = 0;
+        int origin_y = 0;
+        int cell_size = 0;
+        int tile_width = 0;
+        bool operator==(const Picture_Key&) const = default;
+    };
+    void upload_band(const Picture_Key& key, int ty);
+    Picture_Key shown_key;
+    std::vector<uint32_t> shown_inside;
+    std::vector<uint32_t> shown_grid;
+    std::vector<uint64_t> band_generation;
 };

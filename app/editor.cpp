@@ -5,6 +5,7 @@
 
 #include "app/canvas_view.h"
 #include "app/commands.h"
+#include "app/frame_cache.h"
 #include "app/globals.h"
 #include "app/main_window.h"
 #include "app/stroke_action.h"
@@ -177,9 +178,14 @@ void Editor::handle(const SDL_Event& event) {
     }
 }
 
+// Each part of the window is its own group of the kept frame: a change in one
+// part draws again only where that part was and is.
 void Editor::repaint(bool present) {
     Main_Window& w = *g_main_window;
+    Frame_Cache& frame = w.frame_cache();
+    frame.begin();
     canvas_view->draw(w);
+    frame.next_group();
     // The backgrounds frame the canvas before the panes are drawn over them,
     // so nothing to the right of the canvas is painted over.
     // Where the tool options pane's opaque body lies over the right column the
@@ -197,14 +203,23 @@ void Editor::repaint(bool present) {
     *end++ = Rectangle{0, 632, int(w.width()), int(w.height()) - 632};
     *end++ = Rectangle{1231, 0, int(w.width()) - 1231, 632};
     w.fill_opaque(pieces, int(end - pieces), ui_colors[background_color_index]);
+    frame.next_group();
     if (g_tool_options) g_tool_options->draw();
+    frame.next_group();
     menu_bar->draw(SDL_Point{int(pointer_x), int(pointer_y)});
+    frame.next_group();
     tool_bar->draw();
+    frame.next_group();
     undo_control->draw_meter();
+    frame.next_group();
     tileset_tabs->draw(open);
+    frame.next_group();
     readout.draw();
+    frame.next_group();
     if (Tileset_Navigation* n = navigation()) n->draw();
+    frame.next_group();
     if (g_tool_options) g_tool_options->draw_overlays(*canvas_view, pointer_x, pointer_y);
+    frame.finish();
     if (present) w.present();
 }
 

@@ -3,7 +3,9 @@
 #include <algorithm>
 #include <string_view>
 
+#include "app/draw_sink.h"
 #include "app/fatal.h"
+#include "app/frame_cache.h"
 #include "app/sprites.h"
 #include "app/strip_layout.h"
 #include "app/texture.h"
@@ -14,24 +16,28 @@
 Main_Window::Main_Window(uint32_t width, uint32_t height) : w(width), h(height) {
     if (!SDL_CreateWindowAndRenderer("Mosswick", int(w), int(h), 0, &sdl_window, &sdl_renderer))
         fatal_error("Unable to create window or renderer.");
-    SDL_SetRenderDrawBlendMode(sdl_renderer, SDL_BLENDMODE_BLEND);
+    draw_sink = std::make_unique<Draw_Sink>(sdl_renderer);
+    cache = std::make_unique<Frame_Cache>(*draw_sink, sdl_renderer, int(w), int(h), ui_colors[background_color_index]);
     image_pool = std::make_unique<Image_Pool>();
     sheet_texture.reset(Texture::from_surface(sdl_renderer, image_pool->image().surface()));
     show_cursor(true);
     for (int f = 0; f < font_count; ++f)
-        writers[f] = std::make_unique<Text_Writer>(f, *image_pool, sdl_renderer, *sheet_texture);
+        writers[f] = std::make_unique<Text_Writer>(f, *image_pool, *sheet_texture);
 }
 
 Main_Window::~Main_Window() {
     for (auto& writer : writers) writer.reset();
     sheet_texture.reset();
     image_pool.reset();
+    cache.reset();
+    draw_sink.reset();
     SDL_DestroyRenderer(sdl_renderer);
     SDL_DestroyWindow(sdl_window);
 }
 
 void Main_Window::clear() {
-    set_color(ui_colors[background_color_index]);
+    const Color c = ui_colors[background_color_index];
+    SDL_SetRenderDrawColor(sdl_renderer, c.red, c.green, c.blue, c.alpha);
     SDL_RenderClear(sdl_renderer);
 }
 
@@ -44,51 +50,38 @@ void Main_Window::set_title(const std::string& name) {
 
 const char* Main_Window::renderer_name() const { return SDL_GetRendererName(sdl_renderer); }
 
-void Main_Window::set_color(Color c) { SDL_SetRenderDrawColor(sdl_renderer, c.red, c.green, c.blue, c.alpha); }
+SDL_FRect Main_Window::to_frect(const Rectangle& r) {
+    return SDL_FRect{float(r.x), float(r.y), float(r.width), float(r.height)};
+}
 
 // An opaque fill looks the same blended or not. The software renderer fills a
 // large area many times faster without blending, but each switch of the blend
 // mode costs about as much as blending a few thousand pixels: only large
 // opaque fills switch.
 void Main_Window::fill_rect(const Rectangle& rect, Color c) {
-    set_color(c);
-    scratch = {float(rect.x), float(rect.y), float(rect.width), float(rect.height)};
     const bool plain = c.alpha == 255 && rect.width * rect.height >= unblended_fill_area;
-    if (plain) SDL_SetRenderDrawBlendMode(sdl_renderer, SDL_BLENDMODE_NONE);
-    SDL_RenderFillRect(sdl_renderer, &scratch);
-    if (plain) SDL_SetRenderDrawBlendMode(sdl_renderer, SDL_BLENDMODE_BLEND);
+    draw_sink->fill(to_frect(rect), c, !plain);
 }
 
-void Main_Window::fill_opaque(const Rectangle& rect, Color c) {
-    set_color(c);
-    scratch = {float(rect.x), float(rect.y), float(rect.width), float(rect.height)};
-    SDL_SetRenderDrawBlendMode(sdl_renderer, SDL_BLENDMODE_NONE);
-    SDL_RenderFillRect(sdl_renderer, &scratch);
-    SDL_SetRenderDrawBlendMode(sdl_renderer, SDL_BLENDMODE_BLEND);
-}
+void Main_Window::fill_opaque(const Rectangle& rect, Color c) { draw_sink->fill(to_frect(rect), c, false); }
 
 void Main_Window::fill_opaque(const Rectangle* rects, int count, Color c) {
     scratch_rects.clear();
     for (int i = 0; i < count; ++i)
-        if (rects[i].width > 0 && rects[i].height > 0)
-            scratch_rects.push_back(
-                {float(rects[i].x), float(rects[i].y), float(rects[i].width), float(rects[i].height)});
+        if (rects[i].width > 0 && rects[i].height > 0) scratch_rects.push_back(to_frect(rects[i]));
     if (scratch_rects.empty()) return;
-    set_color(c);
-    SDL_SetRenderDrawBlendMode(sdl_renderer, SDL_BLENDMODE_NONE);
-    SDL_RenderFillRects(sdl_renderer, scratch_rects.data(), int(scratch_rects.size()));
-    SDL_SetRenderDrawBlendMode(sdl_renderer, SDL_BLENDMODE_BLEND);
+    draw_sink->fill(scratch_rects.data(), int(scratch_rects.size()), c, false);
 }
+
+void Main_Window::clip(const Rectangle& rect) { draw_sink->clip(rect); }
+
+void Main_Window::end_clip() { draw_sink->end_clip(); }
 
 void Main_Window::line(int x1, int y1, int x2, int y2, Color c) {
-    set_color(c);
-    SDL_RenderLine(sdl_renderer, float(x1), float(y1), float(x2), float(y2));
+    draw_sink->line(float(x1), float(y1), float(x2), float(y2), c);
 }
 
-void Main_Window::point(int x, int y, Color c) {
-    set_color(c);
-    SDL_RenderPoint(sdl_renderer, float(x), float(y));
-}
+void Main_Window::point(int x, int y, Color c) { draw_sink->point(float(x), float(y), c); }
 
 void Main_Window::dotted_line(int x, int y, int length, int step_x, int step_y, Color c, bool skip_first) {
     if (skip_first) {
@@ -96,9 +89,7 @@ void Main_Window::dotted_line(int x, int y, int length, int step_x, int step_y, 
         y += step_y;
         --length;
     }
-    set_color(c);
-    for (int i = 0; i < length / 2; ++i)
-        SDL_RenderPoint(sdl_renderer, float(x + 2 * i * step_x), float(y + 2 * i * step_y));
+    for (int i = 0; i < length / 2; ++i) point(x + 2 * i * step_x, y + 2 * i * step_y, c);
 }
 
 void Main_Window::frame(const Rectangle& r, Color c) {
@@ -156,8 +147,7 @@ void Main_Window::bevel_fill(const Rectangle& r, Color c) {
 }
 
 void Main_Window::draw_sprite_rect(const SDL_FRect& source, float x, float y, float dw, float dh) {
-    scratch = {x, y, dw, dh};
-    SDL_RenderTexture(sdl_renderer, sheet_texture->sdl(), &source, &scratch);
+    sheet_texture->copy(source, SDL_FRect{x, y, dw, dh});
 }
 
 void Main_Window::sprite(int id, int x, int y) {

@@ -11,6 +11,8 @@
 #include "ui/fonts.h"
 #include "ui/rectangle.h"
 
+class Draw_Sink;
+class Frame_Cache;
 class Image_Pool;
 class Text_Writer;
 class Texture;
@@ -47,6 +49,9 @@ public:
     // As one unblended draw: each switch of the blend mode costs far more
     // than the fill itself. Empty rectangles are skipped.
     void fill_opaque(const Rectangle* rects, int count, Color c);
+    // Limits the drawing that follows to the rectangle until end_clip.
+    void clip(const Rectangle& rect);
+    void end_clip();
     void line(int x1, int y1, int x2, int y2, Color c);
     void point(int x, int y, Color c);
     // length / 2 points, two steps apart; skip_first starts one step in, so
@@ -87,17 +92,22 @@ public:
     Image_Pool& pool() const { return *image_pool; }
     Texture& pool_texture() const { return *sheet_texture; }
     Text_Writer& writer(int font = font_regular) const { return *writers[font]; }
+    // Every draw goes through the sink; the frame cache keeps the editor's
+    // frame between repaints.
+    Draw_Sink& sink() const { return *draw_sink; }
+    Frame_Cache& frame_cache() const { return *cache; }
 
 private:
-    void set_color(Color c);
+    static SDL_FRect to_frect(const Rectangle& r);
     void draw_sprite_rect(const SDL_FRect& source, float x, float y, float w, float h);
 
     uint32_t w;
     uint32_t h;
     SDL_Renderer* sdl_renderer = nullptr;
     SDL_Window* sdl_window = nullptr;
+    std::unique_ptr<Draw_Sink> draw_sink;
+    std::unique_ptr<Frame_Cache> cache;
     std::unique_ptr<Texture> sheet_texture;
-    SDL_FRect scratch{};
     SDL_FRect scratch_source{};
     std::vector<SDL_FRect> scratch_rects;
     std::unique_ptr<Image_Pool> image_pool;

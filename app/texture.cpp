@@ -1,14 +1,21 @@
 #include "app/texture.h"
 
+#include "app/draw_sink.h"
 #include "app/fatal.h"
+#include "app/globals.h"
+#include "app/main_window.h"
 
-Texture::Texture(SDL_Texture* texture, SDL_Renderer* renderer, int width, int height)
+Texture::Texture(SDL_Texture* texture, int width, int height)
     : source{0, 0, float(width), float(height)},
       destination{0, 0, float(width), float(height)},
       texture(texture),
-      renderer(renderer),
       texture_width(width),
-      texture_height(height) {}
+      texture_height(height),
+      pixels_generation(Draw_Sink::fresh_generation()) {
+    SDL_BlendMode mode = SDL_BLENDMODE_BLEND;
+    SDL_GetTextureBlendMode(texture, &mode);
+    blending = mode != SDL_BLENDMODE_NONE;
+}
 
 Texture::~Texture() { SDL_DestroyTexture(texture); }
 
@@ -16,7 +23,7 @@ Texture* Texture::from_surface(SDL_Renderer* renderer, SDL_Surface* surface) {
     SDL_Texture* t = SDL_CreateTextureFromSurface(renderer, surface);
     if (!t) fatal_error("Could not set SDL texture from surface.");
     SDL_SetTextureScaleMode(t, SDL_SCALEMODE_NEAREST);
-    return new Texture(t, renderer, surface->w, surface->h);
+    return new Texture(t, surface->w, surface->h);
 }
 
 Texture* Texture::from_pixels(SDL_Renderer* renderer, const Color* pixels, int width, int height) {
@@ -25,7 +32,7 @@ Texture* Texture::from_pixels(SDL_Renderer* renderer, const Color* pixels, int w
     if (!t) fatal_error("Could not set SDL texture from pixel data.");
     SDL_SetTextureBlendMode(t, SDL_BLENDMODE_BLEND);
     SDL_SetTextureScaleMode(t, SDL_SCALEMODE_NEAREST);
-    Texture* result = new Texture(t, renderer, width, height);
+    Texture* result = new Texture(t, width, height);
     result->update(pixels);
     return result;
 }
@@ -49,13 +56,19 @@ void Texture::update(const Color* pixels) {
         }
     }
     SDL_UnlockTexture(texture);
+    pixels_generation = Draw_Sink::fresh_generation();
 }
 
 void Texture::set_opaque(bool opaque) {
     SDL_SetTextureBlendMode(texture, opaque ? SDL_BLENDMODE_NONE : SDL_BLENDMODE_BLEND);
+    blending = !opaque;
 }
 
-void Texture::draw() { SDL_RenderTexture(renderer, texture, &source, &destination); }
+void Texture::draw() { copy(source, destination); }
+
+void Texture::copy(const SDL_FRect& from, const SDL_FRect& to) const {
+    g_main_window->sink().copy(texture, pixels_generation, blending, from, to);
+}
 
 void Texture::draw_at(int x, int y) {
     source = {0, 0, float(texture->w), float(texture->h)};

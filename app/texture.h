@@ -2,6 +2,8 @@
 
 #include <SDL3/SDL.h>
 
+#include <cstdint>
+
 #include "color/color.h"
 #include "ui/rectangle.h"
 
@@ -21,6 +23,8 @@ public:
     // the RGBA8888 layout as alpha, blue, green, red.
     void update(const Color* pixels);
     void draw();
+    // Part of the texture to a window rectangle, through the window's drawing path.
+    void copy(const SDL_FRect& from, const SDL_FRect& to) const;
     void draw_at(int x, int y);
     void draw_in(const Rectangle& rect);
     // Copies without blending: far faster on the software renderer, for
@@ -31,14 +35,17 @@ public:
     int width() const { return texture_width; }
     int height() const { return texture_height; }
     SDL_Texture* sdl() const { return texture; }
+    // Changes whenever the pixels do, so a kept frame knows to draw it again.
+    uint64_t generation() const { return pixels_generation; }
     SDL_FRect source{};
     SDL_FRect destination{};
 
 private:
-    Texture(SDL_Texture* texture, SDL_Renderer* renderer, int width, int height);
+    Texture(SDL_Texture* texture, int width, int height);
 
     SDL_Texture* texture;
-    SDL_Renderer* renderer;
     int texture_width;
     int texture_height;
+    uint64_t pixels_generation;
+    bool blending;
 };

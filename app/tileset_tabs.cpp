@@ -39,11 +39,10 @@ void Tileset_Tabs::draw(Tileset_List& list) {
         // Cut the name to the tab, so neighbours never overlap.
         int chars = int(name.size());
         while (chars > 0 && t.measure_prefix(name.c_str(), chars) > r.width - 2 * padding) --chars;
-        SDL_Rect clip{r.x + 1, r.y + 1, r.width - 2, r.height - 2};
-        SDL_SetRenderClipRect(w.renderer(), &clip);
+        w.clip(Rectangle{r.x + 1, r.y + 1, r.width - 2, r.height - 2});
         t.set_cursor(r.x + padding, r.y + 2);
         for (int c = 0; c < chars; ++c) t.put_char(name[size_t(c)]);
-        SDL_SetRenderClipRect(w.renderer(), nullptr);
+        w.end_clip();
     }
 }
 

@@ -7,15 +7,13 @@
 #include "ui/fonts.h"
 #include "ui/image_pool.h"
 
-Text_Writer::Text_Writer(int font, const Image_Pool& pool, SDL_Renderer* renderer,
-                         Texture& pool_texture)
+Text_Writer::Text_Writer(int font, const Image_Pool& pool, Texture& pool_texture)
     : font_id(font),
       buffer(new char[buffer_size]()),
       cell_w(font_table[font].cell_width),
       line_h(font_table[font].glyph_height),
       glyph_count(pool.glyph_count(font)),
       pool(pool),
-      renderer(renderer),
       pool_texture(pool_texture) {}
 
 Text_Writer::~Text_Writer() = default;
@@ -52,7 +50,7 @@ int Text_Writer::put_char(char c) {
     if (k < 0) return 0;
     const SDL_FRect& source = pool.glyph_rect(font_id, k);
     const SDL_FRect target{float(cursor_x), float(cursor_y), source.w, source.h};
-    SDL_RenderTexture(renderer, pool_texture.sdl(), &source, &target);
+    pool_texture.copy(source, target);
     cursor_x += uint32_t(source.w);
     return int(source.w);
 }

@@ -14,7 +14,7 @@ class Text_Writer {
 public:
     static constexpr int buffer_size = 3000;
 
-    Text_Writer(int font, const Image_Pool& pool, SDL_Renderer* renderer, Texture& pool_texture);
+    Text_Writer(int font, const Image_Pool& pool, Texture& pool_texture);
     ~Text_Writer();
     Text_Writer(const Text_Writer&) = delete;
     Text_Writer& operator=(const Text_Writer&) = delete;
@@ -51,6 +51,5 @@ private:
     int line_h;
     int glyph_count;
     const Image_Pool& pool;
-    SDL_Renderer* renderer;
     Texture& pool_texture;
 };

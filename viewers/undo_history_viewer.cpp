@@ -48,11 +48,9 @@ private:
     // The picture at the box's corner, kept inside the box however big the
     // tile is, then what the record is.
     void draw_record(const Undo_Node& node, int i, const Rectangle& inner) const {
-        SDL_Renderer* renderer = g_main_window->renderer();
-        const SDL_Rect clip{inner.x, inner.y, inner.width, inner.height};
-        SDL_SetRenderClipRect(renderer, &clip);
+        g_main_window->clip(inner);
         node.draw(inner.x - 1, inner.y - 1);
-        SDL_SetRenderClipRect(renderer, nullptr);
+        g_main_window->end_clip();
         char text[96];
         const int undo = node.undo_command();
         std::snprintf(text, sizeof text, "%d. %s, tile %d", i + 1, undo >= 0 ? commands::name(undo) : "Floating area",

@@ -106,3 +106,13 @@ Color Headless::read_pixel(int x, int y) {
 }
 
 SDL_Surface* Headless::read_frame() { return SDL_RenderReadPixels(g_main_window->renderer(), nullptr); }
+
+int differing_pixels(const SDL_Surface* a, const SDL_Surface* b) {
+    int count = 0;
+    for (int y = 0; y < a->h; ++y) {
+        const Uint32* p = reinterpret_cast<const Uint32*>(static_cast<const Uint8*>(a->pixels) + y * a->pitch);
+        const Uint32* q = reinterpret_cast<const Uint32*>(static_cast<const Uint8*>(b->pixels) + y * b->pitch);
+        for (int x = 0; x < a->w; ++x) count += (p[x] ^ q[x]) & 0x00FFFFFF ? 1 : 0;
+    }
+    return count;
+}

@@ -47,6 +47,10 @@ struct Temp_Dir {
 
 std::filesystem::path source_path(const std::string& relative);
 
+// How many pixels of two frames of the same size differ; the window has no
+// alpha, so its unused byte is left out.
+int differing_pixels(const SDL_Surface* a, const SDL_Surface* b);
+
 inline void PrintTo(const Color& c, std::ostream* os) {
     *os << "(" << int(c.red) << ", " << int(c.green) << ", " << int(c.blue) << ", " << int(c.alpha) << ")";
 }

@@ -1,0 +1,59 @@
+// The editor keeps its frame between repaints and draws again only what
+// changed: after anything a user does, the window must look exactly as a
+// repaint of everything would draw it.
+#include <gtest/gtest.h>
+
+#include "app/frame_cache.h"
+#include "document/tool_options.h"
+#include "drawing_fixture.h"
+
+namespace {
+class KeptFrame : public Drawing {
+protected:
+    static void expect_as_full_repaint(const char* step) {
+        g_editor->repaint(false);
+        SDL_Surface* kept = read_frame();
+        g_main_window->frame_cache().invalidate();
+        g_editor->repaint(false);
+        SDL_Surface* full = read_frame();
+        ASSERT_TRUE(kept && full);
+        EXPECT_EQ(differing_pixels(kept, full), 0) << "after " << step;
+        SDL_DestroySurface(kept);
+        SDL_DestroySurface(full);
+    }
+    static void move_to(int x, int y) {
+        push_motion(x, y);
+        pump();
+    }
+};
+}  // namespace
+
+TEST_F(KeptFrame, EveryRepaintLooksLikeARepaintOfEverything) {
+    expect_as_full_repaint("start-up");
+    use_tool(command_pen);
+    set_colors(Color(200, 20, 20), Color(20, 20, 200));
+    stroke({{1, 1}, {6, 1}, {6, 5}});
+    expect_as_full_repaint("a stroke");
+    const SDL_Point cell = cell_centre(4, 4);
+    move_to(cell.x, cell.y);
+    expect_as_full_repaint("the pointer over the canvas");
+    const Rectangle pane = g_tool_options->outer_area();
+    move_to(pane.x + 20, pane.y + 40);
+    expect_as_full_repaint("the pointer over the tool options");
+    key(SDLK_Z, SDL_KMOD_CTRL);
+    expect_as_full_repaint("an undo");
+    use_tool(command_dropper);
+    expect_as_full_repaint("another tool");
+    Canvas_View& view = g_editor->canvas();
+    for (int x = 0; x < 5; ++x) view.selection()->set_pixel(x, 2, Color(255, 255, 255));
+    view.set_has_selection(true);
+    expect_as_full_repaint("a selection");
+    SDL_Event wheel{};
+    wheel.type = SDL_EVENT_MOUSE_WHEEL;
+    wheel.wheel.y = 1;
+    g_editor->handle(wheel);
+    expect_as_full_repaint("a zoom");
+    view.set_has_selection(false);
+    move_to(5, 5);
+    expect_as_full_repaint("the selection gone and the pointer on the menu bar");
+}
