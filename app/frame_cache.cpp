@@ -16,7 +16,7 @@ uint32_t group_end(const std::vector<uint32_t>& starts, size_t group, size_t op_
 
 Frame_Cache::Frame_Cache(Draw_Sink& sink, SDL_Renderer* renderer, int width, int height, Color background)
     : sink(sink), renderer(renderer), whole{0, 0, width, height}, background(background) {
-    target = SDL_CreateTexture(renderer, SDL_PIXELFORMAT_ARGB8888, SDL_TEXTUREACCESS_TARGET, width, height);
+    target = SDL_CreateTexture(renderer, SDL_PIXELFORMAT_XRGB8888, SDL_TEXTUREACCESS_TARGET, width, height);
     if (target) {
         SDL_SetTextureBlendMode(target, SDL_BLENDMODE_NONE);
         SDL_SetTextureScaleMode(target, SDL_SCALEMODE_NEAREST);
