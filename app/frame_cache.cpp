@@ -63,7 +63,8 @@ void Frame_Cache::finish() {
 // operations as before is compared one operation with the next: only the
 // pixels of those that differ, where they were and where they are, can have
 // changed, since every other pixel meets the same operations in the same
-// order. A group that grew or shrank is drawn again where it was and is.
+// order. A group that grew or shrank is drawn again where the operations
+// between its unchanged beginning and unchanged end were and are.
 void Frame_Cache::find_damage(const Frame& before, const Frame& now) {
     if (before.group_starts.size() != now.group_starts.size()) {
         add_damage(whole);
@@ -75,8 +76,16 @@ void Frame_Cache::find_damage(const Frame& before, const Frame& now) {
         const uint32_t n0 = now.group_starts[g];
         const uint32_t n1 = group_end(now.group_starts, g, now.ops.size());
         if (b1 - b0 != n1 - n0) {
-            add_damage(bounds_of(before.ops, b0, b1));
-            add_damage(bounds_of(now.ops, n0, n1));
+            // What both begin and end with is the same; only the middle of
+            // each, where they part, can draw anything differently.
+            uint32_t head = 0;
+            while (b0 + head < b1 && n0 + head < n1 && before.ops[b0 + head].same_as(now.ops[n0 + head])) ++head;
+            uint32_t tail = 0;
+            while (b1 - tail > b0 + head && n1 - tail > n0 + head &&
+                   before.ops[b1 - tail - 1].same_as(now.ops[n1 - tail - 1]))
+                ++tail;
+            add_damage(bounds_of(before.ops, b0 + head, b1 - tail));
+            add_damage(bounds_of(now.ops, n0 + head, n1 - tail));
             continue;
         }
         for (uint32_t i = 0; i < n1 - n0; ++i) {

@@ -73,6 +73,8 @@ void Main_Window::fill_opaque(const Rectangle* rects, int count, Color c) {
     draw_sink->fill(scratch_rects.data(), int(scratch_rects.size()), c, false);
 }
 
+void Main_Window::next_group() { draw_sink->mark_group(); }
+
 void Main_Window::clip(const Rectangle& rect) { draw_sink->clip(rect); }
 
 void Main_Window::end_clip() { draw_sink->end_clip(); }

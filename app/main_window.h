@@ -95,6 +95,10 @@ public:
     // Every draw goes through the sink; the frame cache keeps the editor's
     // frame between repaints.
     Draw_Sink& sink() const { return *draw_sink; }
+    // Starts a new group of the kept frame, so that a change in one part of a
+    // pane is not taken for a change in all of it. Parts that are drawn only
+    // sometimes still mark their group every time: groups match by count.
+    void next_group();
     Frame_Cache& frame_cache() const { return *cache; }
 
 private:

@@ -7,6 +7,7 @@
 #include <benchmark/benchmark.h>
 
 #include "app/canvas_view.h"
+#include "app/commands.h"
 #include "app/frame_cache.h"
 #include "app/main_window.h"
 #include "bench_program.h"
@@ -21,7 +22,7 @@ void BM_clear_and_present(benchmark::State& state) {
     }
 }
 
-enum class Change { none, everything, pointer, pixel };
+enum class Change { none, everything, pointer, pixel, tool };
 
 void move_pointer(float x, float y) {
     SDL_Event e{};
@@ -48,6 +49,9 @@ void repaint_after(benchmark::State& state, Change change) {
                 break;
             case Change::pixel:
                 tile.set_pixel(step % tile.width(), 7, Color(uint8_t(step), 40, 200));
+                break;
+            case Change::tool:
+                g_editor->run_command(step % 2 ? command_pen : command_flood_fill);
                 break;
         }
         g_editor->repaint(true);
@@ -80,6 +84,7 @@ void BM_repaint_heaviest_canvas(benchmark::State& state) {
 
 BENCHMARK(BM_clear_and_present)->Unit(benchmark::kMillisecond)->MinTime(1.0);
 // The argument is the change before each repaint: 0 nothing, 1 everything,
-// 2 a pointer move over the canvas, 3 one pixel of the tile.
-BENCHMARK(BM_repaint_default_view)->Unit(benchmark::kMillisecond)->MinTime(1.0)->Arg(0)->Arg(1)->Arg(2);
+// 2 a pointer move over the canvas, 3 one pixel of the tile, 4 another tool
+// (its whole options page changes).
+BENCHMARK(BM_repaint_default_view)->Unit(benchmark::kMillisecond)->MinTime(1.0)->Arg(0)->Arg(1)->Arg(2)->Arg(4);
 BENCHMARK(BM_repaint_heaviest_canvas)->Unit(benchmark::kMillisecond)->MinTime(1.0)->Arg(0)->Arg(1)->Arg(2)->Arg(3);

@@ -131,28 +131,34 @@ void Tool_Options_Pane::layout_page() {
 }
 
 void Tool_Options_Pane::draw() {
+    Main_Window& w = *g_main_window;
     Pane::draw();
     const Page& p = pages[current_page];
+    w.next_group();
     if (p.type_row >= 0) rows[size_t(p.type_row)]->draw();
+    w.next_group();
     if (p.tool_colors) colors->draw();
+    w.next_group();
     if (p.brush) {
         brush_selector->draw();
         // The brush button under the pointer is outlined.
         for (int k = 1; k <= 7; ++k) {
             const Rectangle s = brush_selector->shape_button(k - 1);
             const Rectangle z = brush_selector->size_button(k);
-            if (s.contains(pointer.x, pointer.y)) g_main_window->frame(s, ui_colors[10]);
-            if (k <= 6 && z.contains(pointer.x, pointer.y)) g_main_window->frame(z, ui_colors[10]);
+            if (s.contains(pointer.x, pointer.y)) w.frame(s, ui_colors[10]);
+            if (k <= 6 && z.contains(pointer.x, pointer.y)) w.frame(z, ui_colors[10]);
         }
     }
+    w.next_group();
     if (p.location) rows[row_location]->draw();
     for (int i = 0; i < p.row_count; ++i) rows[size_t(p.rows[i])]->draw();
+    w.next_group();
     pad->draw();
-    Text_Writer& writer = g_main_window->writer(font_pane);
+    Text_Writer& writer = w.writer(font_pane);
     const Rectangle c = pad->client_area();
     writer.write_at(c.x + 2, c.y, "The pad is empty.");
-    g_main_window->bevel_fill(adjust_area, button_face_color);
-    Text_Writer& label = g_main_window->writer(font_regular);
+    w.bevel_fill(adjust_area, button_face_color);
+    Text_Writer& label = w.writer(font_regular);
     label.write_at(adjust_area.x + (adjust_area.width - label.measure(adjust_label)) / 2,
                    adjust_area.y + (adjust_area.height - label.line_height()) / 2, adjust_label);
 }

@@ -21,6 +21,7 @@ struct Scene {
     Rectangle clip{300, 40, 30, 30};
     Color tint = Color(200, 30, 30, 128);
     int scattered_shift = 0;
+    int line_end = 120;
 };
 
 class FrameCacheTest : public Headless {
@@ -47,7 +48,7 @@ protected:
         w.fill_rect(s.moving, Color(250, 250, 0));
         w.fill_rect(Rectangle{8, 8, 60, 20}, s.tint);
         if (grouped) cache->next_group();
-        w.line(5, 100, 395, 120, Color(0, 255, 0));
+        w.line(5, 100, 395, s.line_end, Color(0, 255, 0));
         for (int i = 0; i < s.extra_points; ++i) w.point(20 + 3 * i, 150, Color(255, 255, 255));
         for (int i = 0; i < 40; ++i) w.point(10 + 9 * i + s.scattered_shift, 180 + i % 3, Color(255, 0, 255));
         if (grouped) cache->next_group();
@@ -128,11 +129,18 @@ TEST_F(FrameCacheTest, OnlyWhereSomethingChangedIsDrawnAgain) {
     ASSERT_EQ(cache->damage_count(), 1);
     EXPECT_EQ(cache->damage(0), (Rectangle{300, 40, 30, 30})) << "the copy, limited by its clip";
 
-    // A group that grows is drawn again over all it covers before and after.
+    // A group that grows is drawn again only between the beginning and the
+    // end it shares with before: here the three new points.
     s.extra_points = 3;
     frame(s);
     ASSERT_EQ(cache->damage_count(), 1);
-    EXPECT_EQ(cache->damage(0), (Rectangle{5, 100, 391, 83}));
+    EXPECT_EQ(cache->damage(0), (Rectangle{20, 150, 7, 1}));
+    // Moving the line as well widens that to the line and the new points.
+    s.extra_points = 2;
+    s.line_end = 130;
+    frame(s);
+    ASSERT_EQ(cache->damage_count(), 1);
+    EXPECT_EQ(cache->damage(0), (Rectangle{5, 100, 391, 51}));
 
     // Forty separate changes fit the table by merging, and cover every change.
     s.scattered_shift = 2;
