@@ -16,7 +16,9 @@ void Backdrop::pop() {
 }
 
 void Backdrop::paint() {
-    g_main_window->clear();
+    // The editor's frame covers the whole window; only without it is there
+    // anything to clear.
+    if (!base.painter) g_main_window->clear();
     if (base.painter) base.painter(base.context);
     const int drawn = count < max_layers ? count : max_layers;
     for (int i = 0; i < drawn; ++i) layers[i].painter(layers[i].context);

@@ -1,8 +1,8 @@
 #pragma once
 
-// What a modal box repaints behind itself before each wait: the window
-// cleared, the editor (once it is installed) and every modal layer still
-// open beneath it, oldest first. Layers are kept in a fixed table so that
+// What a modal box repaints behind itself before each wait: the editor (or,
+// before it is installed, a cleared window) and every modal layer still open
+// beneath it, oldest first. Layers are kept in a fixed table so that
 // painting allocates nothing.
 class Backdrop {
 public:
@@ -16,7 +16,7 @@ public:
     static void pop();
     static int depth() { return count; }
 
-    // Clears, paints the base and every layer; does not present.
+    // Paints the base (clears without one) and every layer; does not present.
     static void paint();
 
 private:

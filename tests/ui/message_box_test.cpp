@@ -75,7 +75,13 @@ TEST_F(MessageBoxTest, AboutNamesVersionWindowSizeAndRenderer) {
 
 TEST_F(MessageBoxTest, BoxesDrawOverWhatLiesBehindThem) {
     int behind = 0;
-    Backdrop::set_base([](void* n) { ++*static_cast<int*>(n); }, &behind);
+    // A base paints the whole window, as the editor's frame does.
+    Backdrop::set_base(
+        [](void* n) {
+            g_main_window->clear();
+            ++*static_cast<int*>(n);
+        },
+        &behind);
     Dialog dialog("Note");
     dialog.add_text("Drawn over the editor");
     dialog.finish(false);
