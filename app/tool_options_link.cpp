@@ -2,7 +2,7 @@
 
 #include "app/editor.h"
 #include "app/strokes/stroke_context.h"
-#include "document/tool_options.h"
+#include "app/tool_options.h"
 
 void link_tool_options(Stroke_Context& context) {
     context.gather = [] {

@@ -4,16 +4,16 @@
 
 #include "app/canvas_view.h"
 #include "app/commands.h"
+#include "app/edit_hsv_dialog.h"
 #include "app/editor.h"
+#include "app/tool_options.h"
 #include "color/color_database.h"
 #include "color/color_editor.h"
 #include "color/palette.h"
-#include "document/edit_hsv_dialog.h"
-#include "document/tool_options.h"
-#include "ui/dialog.h"
-#include "ui/dialog_item.h"
 #include "support/headless.h"
 #include "tests/ui/event_script.h"
+#include "ui/dialog.h"
+#include "ui/dialog_item.h"
 
 namespace {
 class ColorEditorTest : public Headless {

@@ -1,12 +1,12 @@
 #include <gtest/gtest.h>
 
+#include "app/canvas_view.h"
 #include "app/commands.h"
 #include "app/editor.h"
-#include "app/canvas_view.h"
+#include "app/tool_options.h"
 #include "color/color_editor.h"
 #include "color/color_tools.h"
 #include "color/palette.h"
-#include "document/tool_options.h"
 #include "support/editor_fixture.h"
 #include "tests/ui/event_script.h"
 

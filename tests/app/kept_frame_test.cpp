@@ -4,7 +4,7 @@
 #include <gtest/gtest.h>
 
 #include "app/frame_cache.h"
-#include "document/tool_options.h"
+#include "app/tool_options.h"
 #include "drawing_fixture.h"
 
 namespace {

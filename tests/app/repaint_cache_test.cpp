@@ -3,12 +3,12 @@
 #include <gtest/gtest.h>
 
 #include "app/editor.h"
+#include "app/tool_options.h"
 #include "app/ui_colors.h"
 #include "color/brush_selector.h"
 #include "color/color_tools.h"
 #include "color/palette.h"
 #include "color/palette_area.h"
-#include "document/tool_options.h"
 #include "support/headless.h"
 
 namespace {

@@ -1,7 +1,7 @@
 // The stamp brush and the smudge brush driven through the canvas's real
 // stroke loop.
+#include "app/tool_options.h"
 #include "app/undo_control.h"
-#include "document/tool_options.h"
 #include "tests/app/drawing_fixture.h"
 
 namespace {

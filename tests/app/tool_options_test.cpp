@@ -2,7 +2,7 @@
 
 #include "app/commands.h"
 #include "app/editor.h"
-#include "document/tool_options.h"
+#include "app/tool_options.h"
 #include "support/headless.h"
 #include "ui/info_panes.h"
 #include "ui/pane.h"

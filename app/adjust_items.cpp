@@ -1,4 +1,4 @@
-#include "document/adjust_items.h"
+#include "app/adjust_items.h"
 
 #include <algorithm>
 

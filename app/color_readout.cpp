@@ -1,4 +1,4 @@
-#include "document/color_readout.h"
+#include "app/color_readout.h"
 
 #include "app/globals.h"
 #include "app/main_window.h"

@@ -1,7 +1,7 @@
-#include "document/edit_hsv_dialog.h"
+#include "app/edit_hsv_dialog.h"
 
+#include "app/adjust_items.h"
 #include "document/adjust.h"
-#include "document/adjust_items.h"
 #include "ui/button_dialog_item.h"
 #include "ui/dialog.h"
 #include "ui/dialog_rows.h"

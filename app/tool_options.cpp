@@ -1,17 +1,17 @@
-#include "document/tool_options.h"
+#include "app/tool_options.h"
 
 #include "app/canvas_view.h"
+#include "app/color_readout.h"
 #include "app/commands.h"
 #include "app/globals.h"
 #include "app/main_window.h"
-#include "document/color_readout.h"
-#include "ui/options.h"
-#include "ui/ui_globals.h"
 #include "ui/info_panes.h"
+#include "ui/options.h"
 #include "ui/setting_panes.h"
 #include "ui/text_pane.h"
 #include "ui/text_writer.h"
 #include "ui/textlist_dialog_item.h"
+#include "ui/ui_globals.h"
 #include "ui/ui_style.h"
 
 Tool_Options_Pane* g_tool_options = nullptr;
