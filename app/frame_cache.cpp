@@ -21,10 +21,22 @@ Frame_Cache::Frame_Cache(Draw_Sink& sink, SDL_Renderer* renderer, int width, int
         SDL_SetTextureBlendMode(target, SDL_BLENDMODE_NONE);
         SDL_SetTextureScaleMode(target, SDL_SCALEMODE_NEAREST);
     }
+    // Watched rather than handled in a loop: any loop, modal ones included,
+    // may be the one that receives the event.
+    SDL_AddEventWatch(watch, this);
 }
 
 Frame_Cache::~Frame_Cache() {
+    SDL_RemoveEventWatch(watch, this);
     if (target) SDL_DestroyTexture(target);
+}
+
+// Some renderers lose the contents of target textures (a device reset, a
+// display change): the next frame is drawn in full over a cleared texture.
+bool Frame_Cache::watch(void* cache, SDL_Event* event) {
+    if (event->type == SDL_EVENT_RENDER_TARGETS_RESET || event->type == SDL_EVENT_RENDER_DEVICE_RESET)
+        static_cast<Frame_Cache*>(cache)->lost = true;
+    return true;
 }
 
 void Frame_Cache::begin() {
@@ -37,6 +49,10 @@ void Frame_Cache::finish() {
     const Frame& now = frames[current];
     const Frame& before = frames[1 - current];
     damaged = 0;
+    if (lost.exchange(false)) {
+        valid = false;
+        cleared = false;
+    }
     if (!valid || !target)
         add_damage(whole);
     else

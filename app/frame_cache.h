@@ -2,6 +2,7 @@
 
 #include <SDL3/SDL.h>
 
+#include <atomic>
 #include <cstdint>
 #include <vector>
 
@@ -39,6 +40,7 @@ private:
         std::vector<Draw_Op> ops;
         std::vector<uint32_t> group_starts;
     };
+    static bool watch(void* cache, SDL_Event* event);
     void find_damage(const Frame& before, const Frame& now);
     void add_damage(Rectangle r);
 
@@ -51,6 +53,8 @@ private:
     int current = 0;
     bool valid = false;
     bool cleared = false;
+    // Set when the renderer reports that target textures lost their pixels.
+    std::atomic<bool> lost{false};
     Rectangle damage_rects[max_damage];
     int damaged = 0;
 };

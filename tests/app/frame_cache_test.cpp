@@ -114,6 +114,17 @@ TEST_F(FrameCacheTest, OnlyWhereSomethingChangedIsDrawnAgain) {
     frame(s);
     EXPECT_EQ(cache->damage_count(), 0);
 
+    // A renderer that lost its target textures' pixels gets a whole frame.
+    SDL_Event reset{};
+    reset.type = SDL_EVENT_RENDER_TARGETS_RESET;
+    SDL_PushEvent(&reset);
+    frame(s);
+    ASSERT_EQ(cache->damage_count(), 1);
+    EXPECT_EQ(cache->damage(0), (Rectangle{0, 0, int(g_main_window->width()), int(g_main_window->height())}));
+    frame(s);
+    EXPECT_EQ(cache->damage_count(), 0);
+    drop_pending_events();
+
     // Where the fill was and where it is, nothing else.
     s.moving = Rectangle{100, 12, 5, 5};
     frame(s);
