@@ -53,8 +53,9 @@ void Draw_Sink::line(float x1, float y1, float x2, float y2, Color c) {
     op.kind = Draw_Op::Kind::line;
     op.color = c;
     op.a = SDL_FRect{x1, y1, x2, y2};
-    // Both ends are drawn.
-    op.bounds = covering(std::fmin(x1, x2), std::fmin(y1, y2), std::fabs(x2 - x1) + 1, std::fabs(y2 - y1) + 1);
+    // Both ends are drawn; a pixel of margin all round, as renderers that
+    // draw lines as thin quads may touch the neighbouring pixel.
+    op.bounds = covering(std::fmin(x1, x2) - 1, std::fmin(y1, y2) - 1, std::fabs(x2 - x1) + 3, std::fabs(y2 - y1) + 3);
     add(op);
 }
 
@@ -63,7 +64,7 @@ void Draw_Sink::point(float x, float y, Color c) {
     op.kind = Draw_Op::Kind::point;
     op.color = c;
     op.a = SDL_FRect{x, y, 1, 1};
-    op.bounds = covering(x, y, 1, 1);
+    op.bounds = covering(x - 1, y - 1, 3, 3);
     add(op);
 }
 

@@ -141,17 +141,18 @@ TEST_F(FrameCacheTest, OnlyWhereSomethingChangedIsDrawnAgain) {
     EXPECT_EQ(cache->damage(0), (Rectangle{300, 40, 30, 30})) << "the copy, limited by its clip";
 
     // A group that grows is drawn again only between the beginning and the
-    // end it shares with before: here the three new points.
+    // end it shares with before: here the three new points (with the pixel
+    // of margin that lines and points get).
     s.extra_points = 3;
     frame(s);
     ASSERT_EQ(cache->damage_count(), 1);
-    EXPECT_EQ(cache->damage(0), (Rectangle{20, 150, 7, 1}));
+    EXPECT_EQ(cache->damage(0), (Rectangle{19, 149, 9, 3}));
     // Moving the line as well widens that to the line and the new points.
     s.extra_points = 2;
     s.line_end = 130;
     frame(s);
     ASSERT_EQ(cache->damage_count(), 1);
-    EXPECT_EQ(cache->damage(0), (Rectangle{5, 100, 391, 51}));
+    EXPECT_EQ(cache->damage(0), (Rectangle{4, 99, 393, 53}));
 
     // Forty separate changes fit the table by merging, and cover every change.
     s.scattered_shift = 2;

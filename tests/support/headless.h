@@ -8,6 +8,7 @@
 #include <string>
 
 #include "color/color.h"
+#include "ui/rectangle.h"
 #include "support/scratch_dir.h"
 
 // Runs the real start-up of the program on SDL's dummy video driver (a window
@@ -50,6 +51,10 @@ std::filesystem::path source_path(const std::string& relative);
 // How many pixels of two frames of the same size differ; the window has no
 // alpha, so its unused byte is left out.
 int differing_pixels(const SDL_Surface* a, const SDL_Surface* b);
+
+inline void PrintTo(const Rectangle& r, std::ostream* os) {
+    *os << "{" << r.x << ", " << r.y << ", " << r.width << ", " << r.height << "}";
+}
 
 inline void PrintTo(const Color& c, std::ostream* os) {
     *os << "(" << int(c.red) << ", " << int(c.green) << ", " << int(c.blue) << ", " << int(c.alpha) << ")";
