@@ -56,14 +56,15 @@ SDL_Keycode key_code(SDL_Keycode key) {
 
 // The parts of the rectangle outside the hole, appended at out; returns the new end.
 Rectangle* around(const Rectangle& r, const Rectangle& hole, Rectangle* out) {
-    const int left = std::max(r.x, hole.x);
-    const int top = std::max(r.y, hole.y);
-    const int right = std::min(r.x + r.width, hole.x + hole.width);
-    const int bottom = std::min(r.y + r.height, hole.y + hole.height);
-    if (left >= right || top >= bottom) {
+    const Rectangle common = r.intersection(hole);
+    if (common.empty()) {
         *out++ = r;
         return out;
     }
+    const int left = common.x;
+    const int top = common.y;
+    const int right = common.x + common.width;
+    const int bottom = common.y + common.height;
     *out++ = Rectangle{r.x, r.y, r.width, top - r.y};
     *out++ = Rectangle{r.x, bottom, r.width, r.y + r.height - bottom};
     *out++ = Rectangle{r.x, top, left - r.x, bottom - top};

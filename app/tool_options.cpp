@@ -249,11 +249,8 @@ void Tool_Options_Pane::set_color_readout(Color c) { color_row->set(c); }
 
 namespace {
 void fill_clipped(const Rectangle& r, const Rectangle& view, Color c) {
-    const int x1 = r.x > view.x ? r.x : view.x;
-    const int y1 = r.y > view.y ? r.y : view.y;
-    const int x2 = r.x + r.width < view.x + view.width ? r.x + r.width : view.x + view.width;
-    const int y2 = r.y + r.height < view.y + view.height ? r.y + r.height : view.y + view.height;
-    if (x2 > x1 && y2 > y1) g_main_window->fill_rect(Rectangle{x1, y1, x2 - x1, y2 - y1}, c);
+    const Rectangle shown = r.intersection(view);
+    if (!shown.empty()) g_main_window->fill_rect(shown, c);
 }
 
 void outline_clipped(const Rectangle& r, const Rectangle& view, Color c) {
