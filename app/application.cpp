@@ -3,6 +3,8 @@
 #include <SDL3/SDL.h>
 
 #include <cstdio>
+#include <filesystem>
+#include <system_error>
 
 #include "app/data_directory.h"
 #include "app/debug_log.h"
@@ -11,6 +13,7 @@
 #include "app/globals.h"
 #include "app/main_window.h"
 #include "app/prompt_dialogs.h"
+#include "app/recovery.h"
 #include "app/sdl_tile_texture.h"
 #include "app/tool_options.h"
 #include "color/color_database.h"
@@ -43,9 +46,14 @@ void Application::start_up() {
     const int screen_lines = int(Main_Window::default_height) / font_table[font_regular].glyph_height;
     g_debug_log = new Debug_Log(size_t(screen_lines - 1));
     if (Data_Directory::enter(Data_Directory::data) <= 0) fatal_error("Unable to open 'data' directory.");
+    std::error_code error;
+    recovery::set_folder((std::filesystem::current_path(error) / "recovery").string());
     g_main_window = new Main_Window(Main_Window::default_width, Main_Window::default_height);
     set_tile_texture_maker(make_sdl_tile_texture);
     g_palette = new Palette();
+    if (!g_palette->damage_report().empty())
+        g_debug_log->warn("%s damaged (%s): built-in pages used", Palette::default_file,
+                          g_palette->damage_report().c_str());
     g_message_box = new Message_Box();
     // The brush pad store joins the pane here, read from "brushpad.dat".
     g_tool_options = new Tool_Options_Pane(816, 32);
@@ -53,15 +61,19 @@ void Application::start_up() {
     g_color_database = new Color_Database();
     g_prompt_dialogs = new Prompt_Dialogs();
     g_editor = new Editor();
+    // From here on a fatal error first keeps the open tilesets' unsaved work.
+    set_fatal_hook(recovery::save_open_work);
     g_options = new Options();
     g_options->load();
 }
 
-void Application::run() { g_editor->run(); }
+void Application::run() { g_editor->run(recovery::start_note(recovery::folder())); }
 
 // Not the mirror of start-up: the options go first and the editor second, and
 // the data directory is entered again only around the files written there.
 void Application::shut_down() {
+    set_fatal_hook(nullptr);
+    recovery::set_folder("");
     delete g_options;
     g_options = nullptr;
     delete g_editor;

@@ -360,7 +360,7 @@ Cell Canvas_View::press(Stroke_Action& action, int button, float x, float y) {
     SDL_Event event;
     for (;;) {
         if (repaint) repaint();
-        if (!SDL_WaitEvent(&event)) break;
+        if (!wait_event(event)) break;
         if (event.type == SDL_EVENT_MOUSE_BUTTON_UP || event.type == SDL_EVENT_QUIT) break;
         if (event.type != SDL_EVENT_MOUSE_MOTION) continue;
         current = cell_at(event.motion.x, event.motion.y);

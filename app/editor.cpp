@@ -9,6 +9,7 @@
 #include "app/globals.h"
 #include "app/main_window.h"
 #include "app/stroke_action.h"
+#include "app/stroke_change.h"
 #include "app/strokes/drawing_tools.h"
 #include "app/tile_navigation_pane.h"
 #include "app/tileset_tabs.h"
@@ -83,7 +84,8 @@ Editor::Editor()
     : menu_bar(std::make_unique<Menu_Bar>()),
       tool_bar(std::make_unique<Tool_Bar>(0, 32, 0)),
       canvas_view(std::make_unique<Canvas_View>(canvas_area, ui_colors[background_color_index])),
-      tileset_tabs(std::make_unique<Tileset_Tabs>(Rectangle{264, 30, 512, 30})) {
+      tileset_tabs(std::make_unique<Tileset_Tabs>(Rectangle{264, 30, 512, 30})),
+      stroke_change(std::make_unique<Stroke_Change>()) {
     // Nested loops paint through the backdrop, whose base is this editor.
     menu_bar->redraw = [] { Backdrop::paint(); };
     canvas_view->repaint = [] {
@@ -121,12 +123,16 @@ bool Editor::begin() {
     return true;
 }
 
-void Editor::run() {
+void Editor::run(const std::string& start_note) {
     if (!begin()) return;
+    if (!start_note.empty()) {
+        repaint(true);
+        g_message_box->note(start_note.c_str());
+    }
     SDL_Event event;
     while (!quit) {
         repaint(true);
-        if (!SDL_WaitEvent(&event)) break;
+        if (!wait_event(event)) break;
         handle(event);
     }
 }
@@ -283,8 +289,9 @@ void Editor::press() {
         const int action = canvas_action(tool, settings.rectangle_type, settings.ellipse_type);
         Stroke_Action* stroke = action >= 0 ? actions[action] : nullptr;
         if (stroke && canvas_view->tile()) {
+            stroke_change->take(*canvas_view);
             canvas_view->press(*stroke, int(button), pointer_x, pointer_y);
-            if (action != 20) undo_control->record(tool);
+            if (action != 20 && stroke_change->changed(*canvas_view)) undo_control->record(tool);
             return;
         }
     }
@@ -341,7 +348,7 @@ void Editor::pan_loop() {
     for (;;) {
         Backdrop::paint();
         g_main_window->present();
-        if (!SDL_WaitEvent(&event)) break;
+        if (!wait_event(event)) break;
         if (event.type == SDL_EVENT_MOUSE_BUTTON_UP || event.type == SDL_EVENT_QUIT) break;
         if (event.type != SDL_EVENT_MOUSE_MOTION) continue;
         float dx = 0;

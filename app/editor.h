@@ -4,6 +4,7 @@
 
 #include <cstdint>
 #include <memory>
+#include <string>
 
 #include "app/position_readout.h"
 #include "document/tileset_list.h"
@@ -14,6 +15,7 @@ class Color_Editor;
 class Drawing_Tools;
 class Menu_Bar;
 class Stroke_Action;
+class Stroke_Change;
 class Tileset_Tabs;
 class Tileset_Navigation;
 class Tool_Bar;
@@ -38,8 +40,8 @@ public:
     Editor& operator=(const Editor&) = delete;
 
     // The main loop; returns when the quit flag is set or the first tileset
-    // cannot be made.
-    void run();
+    // cannot be made. A start note is shown over the first frame.
+    void run(const std::string& start_note = {});
     // Everything before the first wait: the first tileset and the layout.
     bool begin();
     // One event routed as the main loop routes it.
@@ -88,6 +90,9 @@ private:
     void close_current();
     void context_info();
     void show_unhandled(int command);
+    // What a command handler returns when the model refused it.
+    static constexpr int command_refused = -2;
+    int refuse(const char* why);
 
     Tileset_List open;
     bool quit = false;
@@ -100,6 +105,7 @@ private:
     std::unique_ptr<Tool_Bar> tool_bar;
     std::unique_ptr<Canvas_View> canvas_view;
     std::unique_ptr<Tileset_Tabs> tileset_tabs;
+    std::unique_ptr<Stroke_Change> stroke_change;
     Position_Readout readout;
     Stroke_Action* actions[21] = {};
     std::unique_ptr<Drawing_Tools> drawing_tools;

@@ -38,7 +38,11 @@ int Editor::execute(int command) {
             case command_change_tile:
             case command_select_tile:
             case command_import_from_bmp:
+                break;
+            // It does nothing, so it must not be recorded: its inverse would
+            // delete a real tile on undo.
             case command_append_tile:
+                result = -1;
                 break;
             case command_close:
                 close_current();
@@ -124,6 +128,7 @@ int Editor::execute(int command) {
                 break;
             default:
                 result = execute_tileset_command(command);
+                if (result == command_refused) return -1;
                 if (result < 0) {
                     show_unhandled(command);
                     return -1;
@@ -133,6 +138,24 @@ int Editor::execute(int command) {
     }
     after_command(result);
     return result;
+}
+
+namespace {
+const char* const full_text = "The tileset is full: it holds 256 tiles, the most a tileset can hold.";
+const char* const not_square_text = "Only tiles of equal width and height can be rotated.";
+
+bool is_blank(const Tile& tile) {
+    for (int i = 0; i < tile.pixel_count(); ++i)
+        if (!(tile.pixels()[i] == Color(0, 0, 0, 0))) return false;
+    return true;
+}
+}  // namespace
+
+// A command the model refuses changes nothing and records nothing; the user
+// is told why, unless the refusal is part of an undo that still does its work.
+int Editor::refuse(const char* why) {
+    if (why) g_message_box->note(why);
+    return command_refused;
 }
 
 void Editor::show_unhandled(int command) {
@@ -147,10 +170,10 @@ int Editor::execute_tileset_command(int command) {
     Tile_Store& store = t->store();
     switch (command) {
         case command_next_tile:
-            store.next();
+            if (!store.next()) return refuse("There is no next tile: this is the last one.");
             return command;
         case command_previous_tile:
-            store.previous();
+            if (!store.previous()) return refuse("There is no previous tile: this is the first one.");
             return command;
         case command_next_tile_strip:
             t->strip().next_page();
@@ -165,18 +188,24 @@ int Editor::execute_tileset_command(int command) {
             t->strip().forward();
             return command;
         case command_add_new_tile:
-            store.add_tile();
+            if (!store.add_tile()) return refuse(full_text);
             return command;
         case command_insert_new_tile:
-            store.insert_tile();
+            if (!store.insert_tile()) return refuse(full_text);
             return command;
         case command_delete_tile:
-        case command_undo_delete_tile:
+        case command_undo_delete_tile: {
+            // The only tile is cleared instead; clearing an empty one changes nothing.
+            const Tile* only = store.tile_count() < 2 ? store.current_tile() : nullptr;
+            if (only && is_blank(*only))
+                return refuse("The only tile of a tileset is cleared, not deleted,\rand this one is empty already.");
             store.delete_tile();
             store.current_tile()->update_texture();
             return command;
+        }
+        // Only ever run by undo, which restores the pixels anyway: no message.
         case command_undo_paste_tile:
-            if (store.tile_count() > 1) store.insert_tile();
+            if (store.tile_count() < 2 || !store.insert_tile()) return refuse(nullptr);
             return command;
         // Nothing to undo or redo is no fault: no message.
         case command_undo:
@@ -219,11 +248,11 @@ int Editor::execute_editor_command(int command) {
             return changed();
         case command_rotate:
             if (!tile) return -1;
-            rotate(*tile);
+            if (!rotate(*tile)) return refuse(not_square_text);
             return changed();
         case command_rotate_back:
             if (!tile) return -1;
-            rotate_back(*tile);
+            if (!rotate_back(*tile)) return refuse(not_square_text);
             return changed();
         case command_mirror:
             if (!tile) return -1;

@@ -34,18 +34,21 @@ struct Pending_Dialog {
 
 void SDLCALL dialog_done(void* userdata, const char* const* files, int) {
     auto* pending = static_cast<Pending_Dialog*>(userdata);
-    if (!files) {
-        pending->result.store(file_error);
-    } else if (files[0]) {
-        pending->path = files[0];
-        pending->result.store(file_chosen);
-    } else {
-        pending->result.store(file_cancelled);
-    }
+    const int result = file_dialog_answer(files);
+    if (result == file_chosen) pending->path = files[0];
+    pending->result.store(result);
 }
 
 File_Chooser chooser = native_file_chooser;
 }  // namespace
+
+// Escape in some native save dialogs answers with one empty entry: no file
+// was chosen, so it is a cancel like an empty list.
+int file_dialog_answer(const char* const* files) {
+    if (!files) return file_error;
+    if (!files[0] || !files[0][0]) return file_cancelled;
+    return file_chosen;
+}
 
 bool is_save_kind(int kind) { return kind == file_save_tileset || kind == file_save_bmp; }
 
@@ -83,7 +86,7 @@ bool choose_file(int kind, File_Path& name) {
         g_message_box->note("Unknown error occurred in file dialog.");
         return false;
     }
-    if (result != file_chosen) return false;
+    if (result != file_chosen || chosen.empty()) return false;
     name.set(force_extension(chosen, kind));
     return true;
 }

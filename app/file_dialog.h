@@ -18,6 +18,10 @@ enum File_Kind : int {
 // The outcome of one dialog: 0 chosen, 1 error, 2 cancelled (-1 while pending).
 enum File_Result : int { file_pending = -1, file_chosen = 0, file_error = 1, file_cancelled = 2 };
 
+// What the native dialog's file list means: none at all is an error; an
+// empty list or an empty first entry a cancel; anything else a choice.
+int file_dialog_answer(const char* const* files);
+
 // Shows the dialog of a kind, started at a path, and waits for its answer.
 // The native dialogs are the default; tests put an answering one in place.
 using File_Chooser = std::function<int(int kind, const std::string& start, std::string& chosen)>;

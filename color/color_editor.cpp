@@ -209,7 +209,7 @@ void Color_Editor::run(Color start) {
         while (open) {
             Backdrop::paint();
             w.present();
-            if (!SDL_WaitEvent(&event)) break;
+            if (!wait_event(event)) break;
             switch (event.type) {
                 case SDL_EVENT_KEY_DOWN:
                     if (is_ctrl_class(event.key.mod))

@@ -5,7 +5,6 @@
 #include <utility>
 
 #include "app/data_file.h"
-#include "app/fatal.h"
 #include "app/token_stream.h"
 
 Palette* g_palette = nullptr;
@@ -74,26 +73,32 @@ void Palette::add_built_in_pages() {
 // Reads the page count, then per page its colour count and the next token as
 // its name. The colour tokens the writer puts between the count and the name
 // are not read back; this reading of the file is kept as it is.
+// A damaged file must never keep the program from starting: counts beyond
+// what any palette needs leave the file unread (and untouched) and the
+// built-in pages take its place, with the reason kept for the debug log.
 void Palette::read(Data_File& file) {
     Token_Stream stream;
     stream.read_from(file);
-    // Every page and every colour must have come from somewhere in the text,
-    // so neither can outnumber its characters: this keeps a damaged file from
-    // asking for gigabytes.
-    const size_t limit = stream.text().size();
     const int32_t page_total = stream.read_number();
-    if (page_total > 0 && static_cast<size_t>(page_total) > limit)
-        fatal_error("Page count larger than the file in", file_path.c_str());
-    size_t colour_total = 0;
+    if (page_total > maximum_pages) {
+        refuse_file("too many pages");
+        return;
+    }
     for (int32_t i = 0; i < page_total; ++i) {
         const int32_t count = stream.read_number();
-        if (count < 0) fatal_error("Negative colour count in", file_path.c_str());
-        colour_total += static_cast<size_t>(count);
-        if (colour_total > limit)
-            fatal_error("Colour count larger than the file in", file_path.c_str());
+        if (count < 0 || count > maximum_page_colors) {
+            pages.clear();
+            refuse_file(count < 0 ? "a negative colour count" : "too many colours on a page");
+            return;
+        }
         std::string page_name = stream.read_text();
         pages.push_back(std::make_unique<Palette_Page>(std::move(page_name), count));
     }
+}
+
+void Palette::refuse_file(const char* reason) {
+    damage = reason;
+    add_built_in_pages();
 }
 
 bool Palette::write() {

@@ -25,6 +25,10 @@ class Palette {
 public:
     static constexpr const char* default_file = "palette.dat";
     static constexpr const char* empty_name_replacement = "Rolololo";
+    // Far beyond any palette a user keeps, small enough for every pane that
+    // shows pages and colours.
+    static constexpr int32_t maximum_pages = 64;
+    static constexpr int32_t maximum_page_colors = 256;
 
     explicit Palette(std::string path = default_file);
     ~Palette();
@@ -38,6 +42,9 @@ public:
     void set_color(int page, int index, Color c);
     int page_count() const { return static_cast<int>(pages.size()); }
     bool dirty() const { return changed; }
+    // Why the file was not used (it is left as it is), or empty; start-up
+    // logs it as a warning.
+    const std::string& damage_report() const { return damage; }
 
     // Writes every page to the file; false when it cannot be opened. An empty
     // page name is replaced by "Rolololo", in the page too.
@@ -46,9 +53,11 @@ public:
 private:
     void add_built_in_pages();
     void read(Data_File& file);
+    void refuse_file(const char* reason);
 
     std::string file_path;
     bool changed = false;
+    std::string damage;
     std::vector<std::unique_ptr<Palette_Page>> pages;
 };
 

@@ -94,7 +94,7 @@ bool Dialog::run() {
         while (running) {
             Backdrop::paint();
             g_main_window->present();
-            if (!SDL_WaitEvent(&event)) break;
+            if (!wait_event(event)) break;
             switch (event.type) {
             case SDL_EVENT_KEY_DOWN:
                 if (event.key.key == key_escape) {

@@ -5,6 +5,7 @@
 #include "app/globals.h"
 #include "app/main_window.h"
 #include "ui/backdrop.h"
+#include "ui/event_source.h"
 
 // The loop of a drag: repaint behind, wait, and hand every motion to the
 // caller until a button is released or a quit arrives. The caller flushes
@@ -15,7 +16,7 @@ void run_drag(On_Motion&& on_motion) {
     for (;;) {
         Backdrop::paint();
         g_main_window->present();
-        if (!SDL_WaitEvent(&event)) return;
+        if (!wait_event(event)) return;
         if (event.type == SDL_EVENT_MOUSE_BUTTON_UP || event.type == SDL_EVENT_QUIT) return;
         if (event.type == SDL_EVENT_MOUSE_MOTION) on_motion(event.motion);
     }

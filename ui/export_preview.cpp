@@ -79,7 +79,7 @@ bool show_export_preview(const Image& sheet) {
     for (bool open = true; open;) {
         Backdrop::paint();
         w.present();
-        if (!SDL_WaitEvent(&event)) break;
+        if (!wait_event(event)) break;
         switch (event.type) {
             case SDL_EVENT_QUIT:
             case SDL_EVENT_WINDOW_CLOSE_REQUESTED:

@@ -121,7 +121,7 @@ int Menu_Bar::track(SDL_Point point, int menu) {
         menus[size_t(selected)]->draw(point, true, true);
         shown = selected;
         g_main_window->present();
-        if (!SDL_WaitEvent(&event)) break;
+        if (!wait_event(event)) break;
         if (event.type == SDL_EVENT_QUIT || event.type == SDL_EVENT_KEY_DOWN) break;
         if (event.type == SDL_EVENT_MOUSE_MOTION) {
             point = SDL_Point{int(event.motion.x), int(event.motion.y)};

@@ -18,7 +18,7 @@ public:
     void begin() override { state = uint32_t(number.value); }
     void cancel() override { number.value = int32_t(state); }
     void save(Token_Stream& stream) const override { number.save(stream); }
-    void load(Token_Stream& stream) override { number.load(stream); }
+    void load(Token_Stream& stream) override { number.load_value(stream); }
 
     Range number;
 };

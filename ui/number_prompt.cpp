@@ -51,7 +51,7 @@ std::optional<int32_t> Number_Prompt::ask(int x, int y, int32_t value, int32_t m
         Backdrop::paint();
         prompt.draw();
         g_main_window->present();
-        if (!SDL_WaitEvent(&event)) break;
+        if (!wait_event(event)) break;
         switch (event.type) {
         case SDL_EVENT_KEY_DOWN: {
             const SDL_Keycode key = event.key.key;

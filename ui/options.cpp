@@ -1,5 +1,7 @@
 #include "ui/options.h"
 
+#include <algorithm>
+
 #include "ui/dialog.h"
 
 const char* const Options::names[count] = {
@@ -12,6 +14,14 @@ const uint32_t Options::value_ids[count] = {31, 40, 50, 70, 81, 91, 100, 111, 12
 
 namespace {
 constexpr int pixel_size_offset = 3;
+
+// Each setting's range; a damaged "options.dlg" is held inside them.
+struct Bounds {
+    int32_t low;
+    int32_t high;
+};
+constexpr Bounds bounds[Options::count] = {{0, 2}, {0, 1}, {0, 1},  {0, 1}, {3, 10}, {0, 255},
+                                           {0, 1}, {1, 21}, {1, 21}, {1, 8}, {1, 8},  {0, 2}};
 }  // namespace
 
 Options::Options() : options_dialog(std::make_unique<Dialog>("Options", "options.dlg")) {
@@ -40,8 +50,11 @@ Options::Options() : options_dialog(std::make_unique<Dialog>("Options", "options
 Options::~Options() = default;
 
 void Options::load() {
-    for (int i = 0; i < count; ++i) settings[i] = options_dialog->value_of(value_ids[i]);
-    settings[editor_pixel_size] += pixel_size_offset;
+    for (int i = 0; i < count; ++i) {
+        int64_t value = options_dialog->value_of(value_ids[i]);
+        if (i == editor_pixel_size) value += pixel_size_offset;
+        settings[i] = int32_t(std::clamp<int64_t>(value, bounds[i].low, bounds[i].high));
+    }
 }
 
 bool Options::edit() {

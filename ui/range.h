@@ -36,4 +36,13 @@ struct Range {
         min = stream.read_number();
         max = stream.read_number();
     }
+    // A dialog item's stored value: its bounds are the program's, not the
+    // file's, and a damaged value is held inside them, so nothing read from a
+    // file can index past a list or reach a setting out of its range.
+    void load_value(Token_Stream& stream) {
+        const int32_t stored = stream.read_number();
+        stream.read_number();
+        stream.read_number();
+        value = stored < min ? min : stored > max ? max : stored;
+    }
 };

@@ -22,7 +22,7 @@ public:
     void begin() override { state = uint32_t(choice.value); }
     void cancel() override { choice.value = int32_t(state); }
     void save(Token_Stream& stream) const override { choice.save(stream); }
-    void load(Token_Stream& stream) override { choice.load(stream); }
+    void load(Token_Stream& stream) override { choice.load_value(stream); }
 
     const std::vector<std::string>& entries() const { return *list; }
     // The entry shown, or null when the choice is outside the list.

@@ -5,7 +5,7 @@
 bool wait_for_key() {
     SDL_Event event;
     bool key = false;
-    while (SDL_WaitEvent(&event)) {
+    while (wait_event(event)) {
         if (event.type == SDL_EVENT_KEY_DOWN) {
             key = true;
             break;

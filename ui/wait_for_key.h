@@ -1,5 +1,7 @@
 #pragma once
 
+#include "ui/event_source.h"
+
 // Waits until a key is pressed or the window is asked to close; pending
 // events are flushed afterwards. Returns true for a key, false for a close.
 bool wait_for_key();

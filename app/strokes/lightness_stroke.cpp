@@ -5,6 +5,7 @@
 #include "app/canvas_view.h"
 #include "app/editor.h"
 #include "app/strokes/stroke_context.h"
+#include "ui/event_source.h"
 
 void Lightness_Stroke::begin(Canvas_View& view, Cell& start, int button) {
     (void)button;
@@ -20,7 +21,7 @@ void Lightness_Stroke::apply(Canvas_View& view, Cell from, Cell to, int button) 
     Tile* tile = view.tile();
     if (!tile) return;
     // The press steps at once; later pointer events step when one is due.
-    const uint64_t now = SDL_GetTicks();
+    const uint64_t now = event_ticks();
     if (first) {
         first = false;
         pacer.reset(now);

@@ -8,6 +8,7 @@
 #include "support/headless.h"
 #include "tests/ui/event_script.h"
 #include "ui/dialog.h"
+#include "ui/number_dialog_item.h"
 #include "ui/textlist_dialog_item.h"
 
 namespace fs = std::filesystem;
@@ -146,6 +147,24 @@ TEST_F(OptionsTest, OddFilesLoadIntegerByInteger) {
         EXPECT_EQ(o.dialog().value_of(91), 1);
         EXPECT_EQ(o.get(Options::repeat_x_tiles), 2);
     }
+}
+
+TEST_F(OptionsTest, DamagedValuesAreHeldInsideTheSettingsRanges) {
+    std::string text = defaults_text();
+    text.replace(text.find("3,7,0,7"), 7, "3,2147483647,0,2147483647");
+    text.replace(text.find("64,0,255"), 8, "-5,-9,99999");
+    text.replace(text.find("2,2,1,21"), 8, "0,0,0,0");
+    write_stream(text);
+    Options o;
+    o.load();
+    EXPECT_EQ(o.get(Options::editor_pixel_size), 10);
+    EXPECT_EQ(o.get(Options::grid_intensity), 0);
+    EXPECT_EQ(o.get(Options::repeat_x_tiles), 1);
+    // The items keep the bounds they were built with, so the list still names an entry.
+    auto* list = static_cast<Textlist_Dialog_Item*>(o.dialog().find(81));
+    EXPECT_STREQ(list->current(), "Editor pixel size: 10 [restart]");
+    auto* grid = static_cast<Number_Dialog_Item*>(o.dialog().find(91));
+    EXPECT_EQ(grid->number, Range(0, 0, 255));
 }
 
 using OptionsDeathTest = OptionsTest;

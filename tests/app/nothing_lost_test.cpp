@@ -1,0 +1,196 @@
+// The paths on which a user could lose work: a cancelled file dialog, a
+// refused command, a click that changes nothing and a fatal read error.
+#include <gtest/gtest.h>
+
+#include <filesystem>
+
+#include "app/canvas_view.h"
+#include "app/commands.h"
+#include "app/editor.h"
+#include "app/file_dialog.h"
+#include "app/recovery.h"
+#include "app/tool_options.h"
+#include "document/tileset.h"
+#include "document/tileset_file.h"
+#include "support/editor_fixture.h"
+#include "ui/event_script.h"
+
+namespace fs = std::filesystem;
+
+namespace {
+struct History_State {
+    int count;
+    int position;
+    bool operator==(const History_State&) const = default;
+};
+
+History_State history_of(Tileset& t) { return {t.history().count(), t.history().position()}; }
+
+// Files other than the data folder that appeared in a directory.
+int stray_files(const fs::path& dir) {
+    int n = 0;
+    for (const auto& entry : fs::directory_iterator(dir))
+        if (entry.path().filename() != "data") ++n;
+    return n;
+}
+}  // namespace
+
+class NothingLostTest : public Editor_Fixture {
+protected:
+    void TearDown() override {
+        set_file_chooser(nullptr);
+        Headless::TearDown();
+    }
+    // Answers every file dialog as SDL reports Escape in some native save
+    // dialogs: "chosen", with an empty path.
+    static void answer_with_empty_path() {
+        set_file_chooser([](int, const std::string&, std::string& chosen) {
+            chosen.clear();
+            return int(file_chosen);
+        });
+    }
+    static SDL_Point cell_centre(int tx, int ty) {
+        const Canvas_View& c = g_editor->canvas();
+        const int s = c.pixel_size();
+        return SDL_Point{c.origin().x + tx * s + s / 2, c.origin().y + ty * s + s / 2};
+    }
+    // A press and release on the canvas with the current tool.
+    static void click_canvas(SDL_Point p) {
+        Event_Script script;
+        script.then([p] { push_button(p.x, p.y, false); });
+        push_button(p.x, p.y, true);
+        pump();
+    }
+};
+
+TEST_F(NothingLostTest, AnEmptyAnswerFromAFileDialogIsACancel) {
+    const char* const none[] = {nullptr};
+    const char* const empty[] = {"", nullptr};
+    const char* const chosen[] = {"/home/a/tiles.wst", nullptr};
+    EXPECT_EQ(file_dialog_answer(nullptr), file_error);
+    EXPECT_EQ(file_dialog_answer(none), file_cancelled);
+    EXPECT_EQ(file_dialog_answer(empty), file_cancelled);
+    EXPECT_EQ(file_dialog_answer(chosen), file_chosen);
+
+    answer_with_empty_path();
+    g_editor->run_command(command_add_new_tile);
+    Tileset& t = *g_editor->current();
+    ASSERT_TRUE(t.is_modified());
+    push_key(SDLK_S, SDL_KMOD_CTRL);
+    pump();
+    g_editor->run_command(command_save_as);
+    Event_Script script;
+    script.then([] { push_key(SDLK_RETURN); });  // past the export preview to the file dialog
+    g_editor->run_command(command_export);
+    EXPECT_EQ(script.left(), 0u);
+
+    EXPECT_EQ(stray_files(work_dir), 0) << "a cancelled dialog wrote a file";
+    EXPECT_TRUE(t.is_modified());
+    EXPECT_FALSE(t.is_named());
+    EXPECT_EQ(t.path().name, "untitled1");
+    EXPECT_TRUE(g_editor->tilesets().any_modified());  // Quit and Close still warn
+}
+
+TEST_F(NothingLostTest, RefusedCommandsRecordNothingAndSayWhy) {
+    Tileset& t = *g_editor->current();
+    Tile_Store& store = t.store();
+    while (!store.is_full()) store.add_tile();
+    store.go_to(7);
+    store.current_tile()->set_pixel(1, 1, Color(9, 9, 9));
+    g_editor->canvas().set_tile(store.current_tile());
+    const History_State before = history_of(t);
+
+    Event_Script script;
+    for (int i = 0; i < 3; ++i) script.then([] { push_key(SDLK_RETURN); });  // each refusal's note
+    g_editor->run_command(command_add_new_tile);
+    g_editor->run_command(command_insert_new_tile);
+    store.go_to(255);
+    g_editor->run_command(command_next_tile);
+    EXPECT_EQ(script.left(), 0u) << "a refusal showed no note";
+    g_editor->run_command(command_append_tile);  // does nothing, so records nothing
+    EXPECT_EQ(history_of(t), before);
+    EXPECT_FALSE(t.is_modified());
+
+    // Undo has nothing of them to take back: no real tile is lost.
+    push_key(SDLK_Z, SDL_KMOD_CTRL);
+    pump();
+    EXPECT_EQ(store.tile_count(), 256);
+    EXPECT_EQ(store.tile_at(7)->get_pixel(1, 1), Color(9, 9, 9));
+
+    // Rotating a tile that is not square is refused the same way.
+    ASSERT_TRUE(g_editor->tilesets().new_tileset(8, 16));
+    Tileset& tall = *g_editor->current();
+    const History_State tall_before = history_of(tall);
+    script.then([] { push_key(SDLK_RETURN); });
+    push_key(SDLK_R);
+    pump();
+    EXPECT_EQ(script.left(), 0u);
+    EXPECT_EQ(history_of(tall), tall_before);
+    EXPECT_FALSE(tall.is_modified());
+}
+
+TEST_F(NothingLostTest, AStrokeThatChangesNothingRecordsNothing) {
+    Tileset& t = *g_editor->current();
+    const History_State before = history_of(t);
+    // Beside the tile, and on a cell that already has the pen's colour.
+    const Rectangle view = Editor::canvas_area;
+    ASSERT_GT(g_editor->canvas().origin().x, view.x + 2) << "no room beside the tile";
+    click_canvas(SDL_Point{view.x + 1, view.y + 1});
+    ASSERT_EQ(g_editor->canvas().tile()->get_pixel(3, 3), g_tool_options->tool_color(0));
+    click_canvas(cell_centre(3, 3));
+    EXPECT_EQ(history_of(t), before);
+    EXPECT_FALSE(t.is_modified());
+
+    g_tool_options->color_tools().swap_colors();
+    click_canvas(cell_centre(3, 3));
+    EXPECT_EQ(t.history().count(), before.count + 1);
+    EXPECT_TRUE(t.is_modified());
+}
+
+TEST_F(NothingLostTest, AFatalReadErrorKeepsTheUnsavedTilesetsFirst) {
+    // Two tilesets with unsaved work, one saved and untouched.
+    g_editor->run_command(command_add_new_tile);
+    g_editor->current()->store().current_tile()->set_pixel(2, 3, Color(200, 10, 20));
+    ASSERT_TRUE(g_editor->tilesets().new_tileset(16, 16));
+    g_editor->run_command(command_mirror);
+    ASSERT_TRUE(g_editor->tilesets().new_tileset(8, 8));
+    ASSERT_FALSE(g_editor->current()->is_modified());
+
+    Tile_Store two(6, 6, 256);
+    two.add_tile();
+    two.add_tile();
+    const std::string cut = (work_dir / "cut.wst").string();
+    ASSERT_EQ(Tileset_File::write(two, cut), 11 + 2 * 6 * 6 * 4);
+    fs::resize_file(cut, 11 + 6 * 6 * 4 + 5);
+    set_file_chooser([cut](int, const std::string&, std::string& chosen) {
+        chosen = cut;
+        return int(file_chosen);
+    });
+    // Exactly the block error and nothing else is printed.
+    EXPECT_EXIT(
+        {
+            send_stdout_to_stderr();
+            g_editor->run_command(command_load);
+        },
+        ::testing::ExitedWithCode(1), "^Error: Unable to load block from  .*cut\\.wst!\n$");
+
+    const fs::path folder = work_dir / "data" / "recovery";
+    EXPECT_EQ(fs::path(recovery::folder()), folder);
+    const std::vector<std::string> kept = recovery::files_in(folder.string());
+    ASSERT_EQ(kept.size(), 2u);
+    EXPECT_EQ(kept[0].rfind("untitled1-", 0), 0u);
+    EXPECT_EQ(kept[1].rfind("untitled2-", 0), 0u);
+    const std::unique_ptr<Tile_Store> first = Tileset_File::read((folder / kept[0]).string());
+    ASSERT_TRUE(first);
+    EXPECT_EQ(first->tile_count(), 2);
+    EXPECT_EQ(first->tile_at(1)->get_pixel(2, 3), Color(200, 10, 20));
+    const std::unique_ptr<Tile_Store> second = Tileset_File::read((folder / kept[1]).string());
+    ASSERT_TRUE(second);
+    EXPECT_EQ(second->tile_width(), 16u);
+
+    // The next start says where they are.
+    const std::string note = recovery::start_note(folder.string());
+    EXPECT_NE(note.find(folder.string()), std::string::npos);
+    EXPECT_NE(note.find(kept[0]), std::string::npos);
+    EXPECT_EQ(recovery::start_note((work_dir / "nowhere").string()), "");
+}
