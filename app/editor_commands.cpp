@@ -10,6 +10,7 @@
 #include "app/globals.h"
 #include "app/main_window.h"
 #include "app/prompt_dialogs.h"
+#include "app/stroke_change.h"
 #include "app/tool_bar.h"
 #include "app/tool_options.h"
 #include "app/undo_control.h"
@@ -18,6 +19,7 @@
 #include "ui/message_box.h"
 #include "ui/options.h"
 #include "ui/ui_globals.h"
+#include "viewers/command_lists.h"
 
 int Editor::execute(int command) {
     if (command < 0 || command >= command_count) return -1;
@@ -78,6 +80,12 @@ int Editor::execute(int command) {
             case command_about:
                 g_message_box->show_about();
                 break;
+            case command_keyboard_commands:
+                show_keyboard_commands();
+                break;
+            case command_mouse_commands:
+                show_mouse_commands();
+                break;
             case command_debug_monitor:
                 g_debug_log->show(*g_main_window);
                 break;
@@ -117,8 +125,9 @@ int Editor::execute(int command) {
                 color_editor->run(g_tool_options->tool_color(0));
                 break;
             case command_adjust_hsv:
-                // An image change with no inverse: it records itself.
-                if (canvas_view->tile() && edit_hsv(*canvas_view->tile()))
+                // An image change with no inverse: it records itself, when it changed something.
+                stroke_change->take(*canvas_view);
+                if (canvas_view->tile() && edit_hsv(*canvas_view->tile()) && stroke_change->changed(*canvas_view))
                     undo_control->record(command);
                 else
                     result = -1;

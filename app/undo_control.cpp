@@ -1,6 +1,7 @@
 #include "app/undo_control.h"
 
 #include "app/canvas_view.h"
+#include "app/commands.h"
 #include "app/editor.h"
 #include "document/tileset.h"
 #include "viewers/undo_history_viewer.h"
@@ -61,7 +62,25 @@ int Undo_Control::floating_x() const { return editor.canvas().floating_position(
 
 int Undo_Control::floating_y() const { return editor.canvas().floating_position().y; }
 
-void Undo_Control::run_command(int command) { editor.execute(command); }
+namespace {
+// Some command's inverse: "Change tile", "Delete tile", "Undo paste tile"...
+bool is_an_inverse(int command) {
+    for (int c = 0; c < command_count; ++c)
+        if (commands::inverse(c) == command) return true;
+    return false;
+}
+}  // namespace
+
+// A record's own command comes back on undo only where it undoes something (an
+// inverse) or chooses the tool that made the stroke. A command that recorded
+// itself ("Adjust HSV", "Cut", "Paste") would do its work again, open its
+// dialog or paste anew, in the middle of the history: the record's pixels are
+// the whole undo for it.
+void Undo_Control::run_command(int command) {
+    if (command < 0 || command >= command_count) return;
+    if (commands::is_tool(command) || commands::inverse(command) >= 0 || is_an_inverse(command))
+        editor.execute(command);
+}
 
 void Undo_Control::tile_changed() {
     Tileset* t = editor.current();

@@ -7,9 +7,11 @@
 #include "app/edit_hsv_dialog.h"
 #include "app/editor.h"
 #include "app/tool_options.h"
+#include "app/undo_control.h"
 #include "color/color_database.h"
 #include "color/color_editor.h"
 #include "color/palette.h"
+#include "document/tileset.h"
 #include "support/headless.h"
 #include "tests/ui/event_script.h"
 #include "ui/dialog.h"
@@ -125,6 +127,47 @@ TEST_F(ColorEditorTest, EditHsvRaisesTheValueOfTheTile) {
     EXPECT_TRUE(d.run());
     EXPECT_EQ(d.dialog().value_of(Edit_HSV_Dialog::mode_id + 1), 7);
     EXPECT_EQ(tile.get_pixel(3, 3), Color(200, 0, 0));
+}
+
+TEST_F(ColorEditorTest, AnAcceptedAdjustHsvIsOneStepThatUndoRestoresWithoutTheDialog) {
+    Tile& tile = *g_editor->canvas().tile();
+    tile.fill(Color(100, 0, 0));
+    tile.update_texture();
+    g_editor->undo().record(command_pen);
+    Tileset& t = *g_editor->current();
+    t.clear_modified();
+    const int records = t.history().count();
+    Event_Script script;
+    script.then([] { push_key(SDLK_RETURN); });  // unchanged: no step
+    g_editor->run_command(command_adjust_hsv);
+    ASSERT_EQ(script.left(), 0u);
+    EXPECT_EQ(t.history().count(), records);
+    EXPECT_FALSE(t.is_modified());
+
+    // The same dialog stands in the same place: "Value" at the far end of its slider.
+    Rectangle more{};
+    Rectangle slider{};
+    {
+        Edit_HSV_Dialog layout(tile);
+        more = layout.dialog().find(Edit_HSV_Dialog::mode_id)->area;
+        slider = layout.dialog().find(Edit_HSV_Dialog::slider_id)->area;
+    }
+    script.then([&] { push_click(more.x + 3, more.y + 3); })
+        .then([&] { push_click(more.x + 3, more.y + 3); })
+        .then([&] { push_click(slider.x + 257, slider.y + 5); })
+        .then([&] { push_key(SDLK_RETURN); });
+    g_editor->run_command(command_adjust_hsv);
+    ASSERT_EQ(script.left(), 0u);
+    ASSERT_EQ(tile.get_pixel(3, 3), Color(200, 0, 0));
+    EXPECT_EQ(t.history().count(), records + 1);
+    EXPECT_TRUE(t.is_modified());
+
+    // Undo puts the pixels back and opens nothing: a dialog would run out of steps.
+    push_key(SDLK_Z, SDL_KMOD_CTRL);
+    for (SDL_Event e; SDL_PollEvent(&e);) g_editor->handle(e);
+    EXPECT_FALSE(script.ran_out());
+    EXPECT_EQ(tile.get_pixel(3, 3), Color(100, 0, 0));
+    EXPECT_EQ(t.history().count(), records + 1);
 }
 
 TEST_F(ColorEditorTest, AdjustHsvFromItsButtonChangesTheTileAndCancelKeepsIt) {

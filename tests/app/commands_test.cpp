@@ -57,6 +57,11 @@ TEST(Commands, TableKeepsItsInversesGroupsAndOddNames) {
         EXPECT_EQ(std::strlen(help(t.command)), t.length) << name(t.command);
         EXPECT_EQ(std::string(help(t.command)).rfind(t.start, 0), 0u) << name(t.command);
     }
+    // Line breaks are real ones, never a backslash and an "r" shown as text.
+    for (int c = 0; c < command_count; ++c) EXPECT_EQ(std::strchr(help(c), '\\'), nullptr) << name(c);
+    for (int c : {command_rectangle, command_rotate, command_rotate_back, command_horizontal_seam_tool,
+                  command_vertical_seam_tool, command_next_tile_strip})
+        EXPECT_NE(std::strchr(help(c), '\r'), nullptr) << name(c);
 }
 
 TEST(Commands, CaptionsAddTheKeyLabelOnlyForKeyedCommands) {
