@@ -24,6 +24,7 @@
 #include "ui/message_box.h"
 #include "ui/options.h"
 #include "ui/pane.h"
+#include "ui/preview_pane.h"
 #include "ui/ui_globals.h"
 #include "ui/wait_for_key.h"
 
@@ -217,6 +218,8 @@ void Editor::repaint(bool present) {
     frame.next_group();
     tool_bar->draw();
     frame.next_group();
+    if (g_message_box) g_message_box->preview().draw_tile(canvas_view->tile());
+    frame.next_group();
     undo_control->draw_meter();
     frame.next_group();
     tileset_tabs->draw(open);
@@ -237,6 +240,12 @@ void Editor::relayout() {
         canvas_view->set_grid_contrast(g_options->get(Options::grid_intensity));
         canvas_view->set_checker_size(g_options->get(Options::alpha_grid_width),
                                       g_options->get(Options::alpha_grid_height));
+        if (g_message_box) {
+            Preview_Pane& preview = g_message_box->preview();
+            preview.set_repeats(g_options->get(Options::repeat_x_tiles), g_options->get(Options::repeat_y_tiles));
+            preview.set_checker_size(g_options->get(Options::alpha_grid_width),
+                                     g_options->get(Options::alpha_grid_height));
+        }
     }
     canvas_view->centre();
 }

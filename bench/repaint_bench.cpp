@@ -80,6 +80,18 @@ void BM_repaint_heaviest_canvas(benchmark::State& state) {
     view.set_has_selection(true);
     repaint_after(state, Change(state.range(0)));
 }
+// The default view with a 64 x 64 tile of varied colours, which the "Preview"
+// pane shows repeated at its real size.
+void BM_repaint_preview_64(benchmark::State& state) {
+    Bench_Program program;
+    g_editor->tilesets().new_tileset(64, 64);
+    g_editor->relayout();
+    Tile& tile = *g_editor->canvas().tile();
+    for (int y = 0; y < 64; ++y)
+        for (int x = 0; x < 64; ++x) tile.set_pixel(x, y, Color(uint8_t(x * 4), uint8_t(y * 4), uint8_t(x ^ y), uint8_t(128 + x)));
+    tile.update_texture();
+    repaint_after(state, Change(state.range(0)));
+}
 }  // namespace
 
 BENCHMARK(BM_clear_and_present)->Unit(benchmark::kMillisecond)->MinTime(1.0);
@@ -88,3 +100,4 @@ BENCHMARK(BM_clear_and_present)->Unit(benchmark::kMillisecond)->MinTime(1.0);
 // (its whole options page changes).
 BENCHMARK(BM_repaint_default_view)->Unit(benchmark::kMillisecond)->MinTime(1.0)->Arg(0)->Arg(1)->Arg(2)->Arg(4);
 BENCHMARK(BM_repaint_heaviest_canvas)->Unit(benchmark::kMillisecond)->MinTime(1.0)->Arg(0)->Arg(1)->Arg(2)->Arg(3);
+BENCHMARK(BM_repaint_preview_64)->Unit(benchmark::kMillisecond)->MinTime(1.0)->Arg(0)->Arg(2)->Arg(3);

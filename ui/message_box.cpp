@@ -7,6 +7,12 @@
 #include "app/sprites.h"
 #include "document/tileset.h"
 #include "ui/dialog.h"
+#include "ui/preview_pane.h"
+
+// The preview stands at the top of the window's left column, beside the tool bar.
+Message_Box::Message_Box() : preview_pane(std::make_unique<Preview_Pane>(28, 32)) {}
+
+Message_Box::~Message_Box() = default;
 
 void Message_Box::show_message(const char* title, const char* text) {
     Dialog dialog(title);

@@ -1,14 +1,18 @@
 #pragma once
 
+#include <memory>
 #include <string>
 
+class Preview_Pane;
 class Tileset;
 
 // The program's small modal windows: messages, the yes/no question, the About
-// box and the statistics window. One instance is made at start-up.
+// box and the statistics window, and the "Preview" pane of the main window.
+// One instance is made at start-up, after the main window.
 class Message_Box {
 public:
-    Message_Box() = default;
+    Message_Box();
+    ~Message_Box();
     Message_Box(const Message_Box&) = delete;
     Message_Box& operator=(const Message_Box&) = delete;
 
@@ -26,4 +30,9 @@ public:
     // The tileset's statistics text in a window of its own.
     void show_statistics(const Tileset& tileset);
     void show_statistics(const std::string& text);
+
+    Preview_Pane& preview() { return *preview_pane; }
+
+private:
+    std::unique_ptr<Preview_Pane> preview_pane;
 };

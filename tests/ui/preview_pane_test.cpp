@@ -1,0 +1,54 @@
+// The "Preview" pane: the current tile repeated at its real size.
+#include "ui/preview_pane.h"
+
+#include <gtest/gtest.h>
+
+#include "app/drawing_fixture.h"
+#include "app/frame_cache.h"
+#include "document/tileset.h"
+#include "ui/message_box.h"
+#include "ui/ui_globals.h"
+
+TEST(PreviewRepeats, AreReducedSoThatTheRepeatsStayWithinTheBody) {
+    EXPECT_EQ(Preview_Pane::repeat_count(2, 64), 2);
+    EXPECT_EQ(Preview_Pane::repeat_count(5, 64), 3);
+    EXPECT_EQ(Preview_Pane::repeat_count(21, 6), 21);
+    EXPECT_EQ(Preview_Pane::repeat_count(21, 24), 8);
+    EXPECT_EQ(Preview_Pane::repeat_count(1, 64), 1);
+}
+
+class PreviewTest : public Drawing {};
+
+TEST_F(PreviewTest, AStrokeShowsInEveryRepeatAtOnceAndAPointerMoveLeavesItAlone) {
+    ASSERT_TRUE(g_editor->tilesets().new_tileset(64, 64));
+    g_editor->relayout();
+    Preview_Pane& preview = g_message_box->preview();
+    preview.set_repeats(5, 4);
+    use_tool(command_pen);
+    set_colors(Color(250, 240, 10), Color(0, 0, 0));
+    stroke({{32, 30}});
+    g_editor->repaint(false);
+    const Rectangle area = preview.picture_area();
+    EXPECT_EQ(area.width, 3 * 64);
+    EXPECT_EQ(area.height, 3 * 64);
+    for (int i = 0; i < 3; ++i)
+        for (int j = 0; j < 3; ++j) {
+            EXPECT_EQ(read_pixel(area.x + i * 64 + 32, area.y + j * 64 + 30), Color(250, 240, 10)) << i << "," << j;
+            EXPECT_EQ(read_pixel(area.x + i * 64 + 33, area.y + j * 64 + 30), Color(0, 0, 0)) << i << "," << j;
+        }
+
+    // An undo shows in the same repaint too.
+    key(SDLK_Z, SDL_KMOD_CTRL);
+    g_editor->repaint(false);
+    EXPECT_EQ(read_pixel(area.x + 32, area.y + 30), Color(0, 0, 0));
+
+    // Moving the pointer over the canvas draws nothing of the preview again.
+    const SDL_Point cell = cell_centre(20, 20);
+    push_motion(cell.x, cell.y);
+    pump();
+    g_editor->repaint(false);
+    const Frame_Cache& frame = g_main_window->frame_cache();
+    ASSERT_GT(frame.damage_count(), 0);
+    for (int i = 0; i < frame.damage_count(); ++i)
+        EXPECT_TRUE(frame.damage(i).intersection(preview.outer_area()).empty());
+}

@@ -1,0 +1,89 @@
+#include "ui/preview_pane.h"
+
+#include <algorithm>
+
+#include "app/globals.h"
+#include "app/main_window.h"
+#include "app/texture.h"
+#include "app/ui_colors.h"
+#include "document/tile.h"
+
+namespace {
+constexpr int widest_repeat = 191;
+
+Color over(Color below, Color above) {
+    const int a = above.alpha;
+    auto mix = [a](int d, int s) { return uint8_t((s * a + d * (255 - a)) / 255); };
+    return Color(mix(below.red, above.red), mix(below.green, above.green), mix(below.blue, above.blue), 255);
+}
+}  // namespace
+
+Preview_Pane::Preview_Pane(int x, int y) : Pane(Rectangle{x, y, body_width, body_height}, "Preview") {
+    update_layout();
+}
+
+Preview_Pane::~Preview_Pane() = default;
+
+int Preview_Pane::repeat_count(int wanted, int tile_size) {
+    if (tile_size <= 0) return 1;
+    const int count = std::max(wanted, 1);
+    if (int64_t(count) * tile_size > widest_repeat) return std::max(1, (widest_repeat + 1) / tile_size);
+    return count;
+}
+
+void Preview_Pane::set_repeats(int new_across, int new_down) {
+    across = std::max(new_across, 1);
+    down = std::max(new_down, 1);
+}
+
+void Preview_Pane::set_checker_size(int width, int height) {
+    checker_w = std::max(width, 1);
+    checker_h = std::max(height, 1);
+}
+
+bool Preview_Pane::same_as_shown(const Tile& tile) const {
+    return &tile == shown_tile && tile.width() == shown_tile_w && tile.height() == shown_tile_h &&
+           repeat_count(across, tile.width()) == shown_across && repeat_count(down, tile.height()) == shown_down &&
+           checker_w == shown_checker_w &&
+           checker_h == shown_checker_h &&
+           std::equal(shown_pixels.begin(), shown_pixels.end(), tile.pixels(), tile.pixels() + tile.pixel_count());
+}
+
+// The checkerboard runs on across the repeats, as it would under a map.
+void Preview_Pane::compose(const Tile& tile) {
+    const int tw = tile.width();
+    const int th = tile.height();
+    const int count_x = repeat_count(across, tw);
+    const int count_y = repeat_count(down, th);
+    const int width = std::min(count_x * tw, body_width);
+    const int height = std::min(count_y * th, body_height);
+    picture.resize(size_t(width) * size_t(height));
+    for (int y = 0; y < height; ++y)
+        for (int x = 0; x < width; ++x) {
+            const bool light = ((x / checker_w) + (y / checker_h)) % 2 == 0;
+            picture[size_t(y * width + x)] = over(ui_colors[light ? 19 : 18], tile.get_pixel(x % tw, y % th));
+        }
+    if (!texture || texture->width() != width || texture->height() != height) {
+        texture.reset(Texture::from_pixels(g_main_window->renderer(), picture.data(), width, height));
+        texture->set_opaque(true);
+    } else {
+        texture->update(picture.data());
+    }
+    shown_tile = &tile;
+    shown_tile_w = tw;
+    shown_tile_h = th;
+    shown_pixels.assign(tile.pixels(), tile.pixels() + tile.pixel_count());
+    shown_across = count_x;
+    shown_down = count_y;
+    shown_checker_w = checker_w;
+    shown_checker_h = checker_h;
+    shown_area = Rectangle{area.x + (body_width - width) / 2, area.y + header_height + (body_height - height) / 2,
+                           width, height};
+}
+
+void Preview_Pane::draw_tile(const Tile* tile) {
+    Pane::draw();
+    if (!tile || tile->width() <= 0 || tile->height() <= 0) return;
+    if (!same_as_shown(*tile)) compose(*tile);
+    texture->draw_at(shown_area.x, shown_area.y);
+}
