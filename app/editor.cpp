@@ -88,7 +88,6 @@ Editor::Editor()
       tileset_tabs(std::make_unique<Tileset_Tabs>(Rectangle{264, 30, 512, 30})),
       stroke_change(std::make_unique<Stroke_Change>()) {
     // Nested loops paint through the backdrop, whose base is this editor.
-    menu_bar->redraw = [] { Backdrop::paint(); };
     canvas_view->repaint = [] {
         Backdrop::paint();
         g_main_window->present();

@@ -11,6 +11,7 @@
 #include "app/main_window.h"
 #include "app/prompt_dialogs.h"
 #include "app/stroke_change.h"
+#include "app/tile_views.h"
 #include "app/tool_bar.h"
 #include "app/tool_options.h"
 #include "app/undo_control.h"
@@ -66,6 +67,10 @@ int Editor::execute(int command) {
                 break;
             case command_quit:
                 if (Prompt_Dialogs::confirm_quit(!open.any_modified())) quit = true;
+                break;
+            // Choosing a tile in it is recorded like a click on the strip.
+            case command_view_in_real_size:
+                result = open.current() ? view_in_real_size(*open.current()) : -1;
                 break;
             case command_statistics:
                 if (open.current()) g_message_box->show_statistics(open.current()->statistics_text());
@@ -216,6 +221,14 @@ int Editor::execute_tileset_command(int command) {
         case command_undo_paste_tile:
             if (store.tile_count() < 2 || !store.insert_tile()) return refuse(nullptr);
             return command;
+        case command_arrange_select: {
+            const int outcome = arrange_tiles(*t);
+            return outcome < 0 ? refuse(nullptr) : outcome;
+        }
+        // A view only: nothing to record.
+        case command_view_tile_array:
+            view_tile_array(*t);
+            return refuse(nullptr);
         // Nothing to undo or redo is no fault: no message.
         case command_undo:
             undo_control->undo();

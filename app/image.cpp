@@ -1,6 +1,35 @@
 #include "app/image.h"
 
+#include <cstdio>
+#include <cstdlib>
+
 #include "app/fatal.h"
+
+namespace {
+
+uint32_t little_endian(const unsigned char* p, int bytes) {
+    uint32_t value = 0;
+    for (int i = bytes - 1; i >= 0; --i) value = value << 8 | p[i];
+    return value;
+}
+
+// SDL makes the whole surface a BMP header asks for before it reads a pixel, so
+// a damaged header can ask for gigabytes. The sides are read here first, the
+// way SDL reads them; anything else wrong with the file is left to SDL.
+bool claims_too_large(const char* file_name) {
+    unsigned char header[26];
+    std::FILE* file = std::fopen(file_name, "rb");
+    if (!file) return false;
+    const bool read = std::fread(header, sizeof header, 1, file) == 1;
+    std::fclose(file);
+    if (!read || header[0] != 'B' || header[1] != 'M') return false;
+    const bool core_header = little_endian(header + 14, 4) == 12;
+    const long long width = core_header ? little_endian(header + 18, 2) : int32_t(little_endian(header + 18, 4));
+    const long long height = core_header ? little_endian(header + 20, 2) : int32_t(little_endian(header + 22, 4));
+    return std::llabs(width) > Image::max_side || std::llabs(height) > Image::max_side;
+}
+
+}  // namespace
 
 Image::Image(const char* file_name, uint32_t width, uint32_t height, bool key_on, uint8_t key_r,
              uint8_t key_g, uint8_t key_b)
@@ -9,7 +38,7 @@ Image::Image(const char* file_name, uint32_t width, uint32_t height, bool key_on
     if (!format) fatal_error("Could not get SDL pixel format details.");
     SDL_Surface* loaded = nullptr;
     if (file_name) {
-        loaded = SDL_LoadBMP(file_name);
+        if (!claims_too_large(file_name)) loaded = SDL_LoadBMP(file_name);
         if (!loaded) fatal_error("Could not load SDL surface from %s.", file_name);
         w = static_cast<uint32_t>(loaded->w);
         h = static_cast<uint32_t>(loaded->h);

@@ -15,8 +15,12 @@ public:
         bool operator==(const Rgba&) const = default;
     };
 
-    // With a file name: load the BMP (fatal when it cannot be read) and take
-    // its size; without: a blank image of the given size.
+    // A file claiming more pixels than this on a side is refused like an
+    // unreadable one: the sheet is 512 x 512 and nothing reads beyond it.
+    static constexpr long long max_side = 4096;
+
+    // With a file name: load the BMP (fatal when it cannot be read or is too
+    // large) and take its size; without: a blank image of the given size.
     Image(const char* file_name, uint32_t width, uint32_t height, bool key_on = false,
           uint8_t key_r = 0, uint8_t key_g = 0, uint8_t key_b = 0);
     Image(uint32_t width, uint32_t height) : Image(nullptr, width, height) {}

@@ -93,6 +93,10 @@ int Color_Editor::swatch_at(int x, int y) const {
 
 void Color_Editor::paint(void* self) { static_cast<Color_Editor*>(self)->draw(); }
 
+Backdrop::Area Color_Editor::area(const void* self) {
+    return static_cast<const Color_Editor*>(self)->frame->modal_area();
+}
+
 void Color_Editor::draw() {
     Main_Window& w = *g_main_window;
     if (rebuild) {
@@ -203,7 +207,7 @@ void Color_Editor::run(Color start) {
     ctrl_held = false;
     Main_Window& w = *g_main_window;
     {
-        const Backdrop_Layer layer(paint, this);
+        const Backdrop_Layer layer(paint, this, area);
         SDL_Event event;
         bool open = true;
         while (open) {

@@ -52,6 +52,7 @@ private:
     int palette_cell_at(int x, int y) const;
     int swatch_at(int x, int y) const;
     static void paint(void* self);
+    static Backdrop::Area area(const void* self);
 
     std::unique_ptr<Pane> frame;
     std::unique_ptr<Selected_Color_Area> widget;

@@ -1,6 +1,7 @@
 #include "document/tile_store.h"
 
 #include <iterator>
+#include <utility>
 
 Tile_Store::Tile_Store(uint32_t w, uint32_t h, int32_t max)
     : width(w), height(h), maximum(max) {
@@ -71,6 +72,12 @@ bool Tile_Store::delete_tile() {
         --current;
         --index;
     }
+    return true;
+}
+
+bool Tile_Store::swap_tiles(int a, int b) {
+    if (a == b || a < 0 || b < 0 || a >= tile_count() || b >= tile_count()) return false;
+    std::swap(*std::next(tiles.begin(), a), *std::next(tiles.begin(), b));
     return true;
 }
 

@@ -33,6 +33,11 @@ public:
     // result is false.
     bool delete_tile();
 
+    // Exchanges the tiles at the two places; the current place stays, so the
+    // current tile is whichever now stands there. False, changing nothing, for
+    // an index outside the list or a tile swapped with itself.
+    bool swap_tiles(int a, int b);
+
     // Appends a tile of the store's size without the maximum check, as loading
     // a file does; the current position does not move.
     void append(std::unique_ptr<Tile> tile);

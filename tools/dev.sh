@@ -13,6 +13,7 @@ packages=(
     libx11-dev libxext-dev libxrandr-dev libxcursor-dev libxi-dev libxfixes-dev
     libxss-dev libxkbcommon-dev libdbus-1-dev
     xvfb xauth xdotool imagemagick zenity
+    clang libclang-rt-14-dev
 )
 
 install_missing() {

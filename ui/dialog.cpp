@@ -29,6 +29,7 @@ void warn_user(const char* text) {
 }
 
 void paint_dialog(void* dialog) { static_cast<Dialog*>(dialog)->draw(); }
+Backdrop::Area dialog_area(const void* dialog) { return static_cast<const Dialog*>(dialog)->pane().modal_area(); }
 }  // namespace
 
 Dialog::Dialog(const char* title) : frame(first_frame, title) {}
@@ -88,7 +89,7 @@ bool Dialog::run() {
     outcome = Dialog_Event{};
     container().begin_all();
     {
-        const Backdrop_Layer layer(paint_dialog, this);
+        const Backdrop_Layer layer(paint_dialog, this, dialog_area);
         bool running = true;
         SDL_Event event;
         while (running) {

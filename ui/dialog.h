@@ -48,6 +48,7 @@ public:
     Dialog_Item* find(uint32_t id) const { return frame.container().find(id); }
     Dialog_Container& container() { return frame.container(); }
     Dialog_Pane& pane() { return frame; }
+    const Dialog_Pane& pane() const { return frame; }
     const std::string& data_file() const { return file_name; }
     // The last press's result, kept after run returns.
     const Dialog_Event& result() const { return outcome; }

@@ -53,6 +53,7 @@ struct Preview {
 };
 
 void paint_preview(void* preview) { static_cast<Preview*>(preview)->draw(); }
+Backdrop::Area preview_area(const void* preview) { return static_cast<const Preview*>(preview)->frame.modal_area(); }
 }  // namespace
 
 bool show_export_preview(const Image& sheet) {
@@ -73,7 +74,7 @@ bool show_export_preview(const Image& sheet) {
     p.export_button = Rectangle{client.x, button_y, 150, 27};
     p.cancel_button = Rectangle{client.x + client.width - 100, button_y, 100, 27};
 
-    Backdrop_Layer layer(paint_preview, &p);
+    Backdrop_Layer layer(paint_preview, &p, preview_area);
     bool accepted = false;
     SDL_Event event;
     for (bool open = true; open;) {

@@ -4,6 +4,7 @@
 #include "app/globals.h"
 #include "app/main_window.h"
 #include "app/ui_colors.h"
+#include "ui/backdrop.h"
 #include "ui/text_writer.h"
 #include "ui/wait_for_key.h"
 
@@ -106,34 +107,50 @@ int Menu_Bar::menu_at(SDL_Point point) const {
     return -1;
 }
 
+// While a menu is open only its title is highlighted: the point the editor
+// passes is where the menu was opened, not where the pointer is now.
 void Menu_Bar::draw(SDL_Point point) const {
-    const int hover = menu_at(point);
+    const int hover = selected >= 0 ? selected : menu_at(point);
     for (int m = 0; m < menu_count; ++m) menus[size_t(m)]->draw(point, false, m == hover);
+}
+
+// The open menu owns the bar: it paints the bar whole, then its drop-down.
+void Menu_Bar::paint_open(void* bar) {
+    const Menu_Bar& self = *static_cast<const Menu_Bar*>(bar);
+    g_main_window->fill_opaque(self.area, ui_colors[background_color_index]);
+    self.draw(self.pointer);
+    self.menus[size_t(self.selected)]->draw(self.pointer, true, true);
+}
+
+Backdrop::Area Menu_Bar::open_area(const void* bar) {
+    const Menu_Bar& self = *static_cast<const Menu_Bar*>(bar);
+    return Backdrop::Area{{self.area, self.menus[size_t(self.selected)]->drop_area}, 0};
 }
 
 int Menu_Bar::track(SDL_Point point, int menu) {
     selected = menu;
+    pointer = point;
     int result = -1;
-    SDL_Event event;
-    for (;;) {
-        if (redraw) redraw();
-        draw(point);
-        menus[size_t(selected)]->draw(point, true, true);
-        shown = selected;
-        g_main_window->present();
-        if (!wait_event(event)) break;
-        if (event.type == SDL_EVENT_QUIT || event.type == SDL_EVENT_KEY_DOWN) break;
-        if (event.type == SDL_EVENT_MOUSE_MOTION) {
-            point = SDL_Point{int(event.motion.x), int(event.motion.y)};
-            const int over = menu_at(point);
-            if (over >= 0) selected = over;
-        } else if (event.type == SDL_EVENT_MOUSE_BUTTON_DOWN) {
-            const int x = int(event.button.x);
-            const int y = int(event.button.y);
-            result = menus[size_t(selected)]->item_at(x, y);
-            if (result >= 0) break;
-            // A press on a separator keeps the menu open; anywhere else closes it.
-            if (!menus[size_t(selected)]->drop_area.contains(x, y)) break;
+    {
+        const Backdrop_Layer layer(paint_open, this, open_area);
+        SDL_Event event;
+        for (;;) {
+            Backdrop::paint();
+            g_main_window->present();
+            if (!wait_event(event)) break;
+            if (event.type == SDL_EVENT_QUIT || event.type == SDL_EVENT_KEY_DOWN) break;
+            if (event.type == SDL_EVENT_MOUSE_MOTION) {
+                pointer = SDL_Point{int(event.motion.x), int(event.motion.y)};
+                const int over = menu_at(pointer);
+                if (over >= 0) selected = over;
+            } else if (event.type == SDL_EVENT_MOUSE_BUTTON_DOWN) {
+                const int x = int(event.button.x);
+                const int y = int(event.button.y);
+                result = menus[size_t(selected)]->item_at(x, y);
+                if (result >= 0) break;
+                // A press on a separator keeps the menu open; anywhere else closes it.
+                if (!menus[size_t(selected)]->drop_area.contains(x, y)) break;
+            }
         }
     }
     selected = -1;

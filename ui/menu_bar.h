@@ -2,10 +2,10 @@
 
 #include <SDL3/SDL.h>
 
-#include <functional>
 #include <memory>
 #include <vector>
 
+#include "ui/backdrop.h"
 #include "ui/rectangle.h"
 
 // One entry of a menu: a command (or -1 for a separator or a title) and the
@@ -38,7 +38,8 @@ public:
 
     // The menu whose title holds the point, or -1.
     int menu_at(SDL_Point point) const;
-    // Opens the menu and runs its loop; the chosen command or -1.
+    // Opens the menu and runs its loop, painting the backdrop with the menu
+    // as its top layer; the chosen command or -1.
     int track(SDL_Point point, int menu);
     void draw(SDL_Point point) const;
 
@@ -46,12 +47,13 @@ public:
     const Menu& menu(int i) const { return *menus[size_t(i)]; }
     int open_menu() const { return selected; }
 
-    // Redraws the editor behind an open menu, without presenting.
-    std::function<void()> redraw;
-
 private:
+    static void paint_open(void* bar);
+    static Backdrop::Area open_area(const void* bar);
+
     Rectangle area;
     std::vector<std::unique_ptr<Menu>> menus;
     int selected = -1;
-    int shown = -1;
+    // Where the pointer is while a menu is open.
+    SDL_Point pointer{-1, -1};
 };

@@ -44,12 +44,14 @@ Number_Prompt::Number_Prompt(int x, int y, int32_t value, int32_t lo, int32_t hi
 
 std::optional<int32_t> Number_Prompt::ask(int x, int y, int32_t value, int32_t min, int32_t max) {
     Number_Prompt prompt(x, y, value, min, max);
+    // A layer like every modal box, so that whatever paints the backdrop
+    // while it is open paints the prompt too.
+    const Backdrop_Layer layer(paint, &prompt, area);
     std::optional<int32_t> result;
     SDL_Event event;
     bool running = true;
     while (running) {
         Backdrop::paint();
-        prompt.draw();
         g_main_window->present();
         if (!wait_event(event)) break;
         switch (event.type) {
@@ -80,6 +82,12 @@ std::optional<int32_t> Number_Prompt::ask(int x, int y, int32_t value, int32_t m
     }
     flush_events();
     return result;
+}
+
+void Number_Prompt::paint(void* prompt) { static_cast<const Number_Prompt*>(prompt)->draw(); }
+
+Backdrop::Area Number_Prompt::area(const void* prompt) {
+    return Backdrop::Area{{static_cast<const Number_Prompt*>(prompt)->box, Rectangle{}}, 0};
 }
 
 void Number_Prompt::type(char c) {

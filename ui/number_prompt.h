@@ -3,6 +3,7 @@
 #include <cstdint>
 #include <optional>
 
+#include "ui/backdrop.h"
 #include "ui/rectangle.h"
 
 // The small modal box in which a number is typed: digits, a leading minus and
@@ -19,6 +20,8 @@ public:
 private:
     Number_Prompt(int x, int y, int32_t value, int32_t min, int32_t max);
     void draw() const;
+    static void paint(void* prompt);
+    static Backdrop::Area area(const void* prompt);
     void type(char c);
     void erase();
     // The entered value when it lies inside the bounds; else marks the refusal.

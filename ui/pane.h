@@ -4,6 +4,7 @@
 
 #include "app/texture.h"
 #include "color/color.h"
+#include "ui/backdrop.h"
 #include "ui/element.h"
 
 // An element with a titled header above a filled body. Callers give the body
@@ -32,6 +33,9 @@ public:
     void draw_frame_filled(Color c) const;
 
     const Rectangle& client_area() const { return client; }
+    // Where the pane stands as a modal window: beside its header tab the
+    // header row shows what lies beneath.
+    Backdrop::Area modal_area() const { return Backdrop::Area{{area, Rectangle{}}, header_height}; }
     const Texture* header_texture() const { return header.get(); }
 
 protected:

@@ -2,7 +2,10 @@
 
 #include <gtest/gtest.h>
 
+#include <vector>
+
 #include "support/headless.h"
+#include "support/scratch_dir.h"
 
 namespace {
 // Writes a 24-bit bitmap with the given colours in a row.
@@ -51,4 +54,28 @@ TEST(Image, BlankImagesTakeWritesInsideAndIgnoreThemOutside) {
 
 TEST(ImageDeathTest, UnreadableFileEndsTheProgramNamingIt) {
     EXPECT_EXIT(Image("no-such-file.bmp", 8, 8), ::testing::ExitedWithCode(1), "");
+}
+
+// A damaged header must not make SDL reserve the surface it claims before the
+// short file fails: the load is refused at once with the usual message.
+TEST(ImageDeathTest, HeaderClaimingAHugeImageIsRefusedLikeAnUnreadableFile) {
+    Temp_Dir dir;
+    const std::string path = write_bmp(dir, {{1, 2, 3, 255}, {4, 5, 6, 255}});
+    std::vector<unsigned char> bytes = read_bytes(path);
+    const std::string huge = (dir.path / "huge.bmp").string();
+    for (int side : {18, 22}) {  // width, then height as well: 1,000,000 each
+        bytes[size_t(side)] = 0x40;
+        bytes[size_t(side) + 1] = 0x42;
+        bytes[size_t(side) + 2] = 0x0F;
+    }
+    write_bytes(huge, bytes);
+    EXPECT_EXIT((send_stdout_to_stderr(), Image(huge.c_str(), 8, 8)), ::testing::ExitedWithCode(1),
+                "Error: Could not load SDL surface from %s. " + huge + "!");
+
+    // Larger than the sheet is fine while it stays within the limit.
+    SDL_Surface* wide = SDL_CreateSurface(int(Image::max_side), 1, SDL_PIXELFORMAT_RGB24);
+    const std::string wide_path = (dir.path / "wide.bmp").string();
+    ASSERT_TRUE(SDL_SaveBMP(wide, wide_path.c_str()));
+    SDL_DestroySurface(wide);
+    EXPECT_EQ(Image(wide_path.c_str(), 8, 8).width(), uint32_t(Image::max_side));
 }

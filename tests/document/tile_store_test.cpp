@@ -175,6 +175,24 @@ TEST(TileStoreDeleting, DeletingTheLastMakesTheNewLastCurrent) {
     EXPECT_TRUE(store.is_last());
 }
 
+TEST(TileStoreSwapping, SwapExchangesTwoTilesAndKeepsTheCurrentPlace) {
+    Tile_Store store(4, 4, 256);
+    add_marked(store, 4);
+    store.go_to(1);
+    EXPECT_TRUE(store.swap_tiles(1, 3));
+    EXPECT_EQ(marks(store), (std::vector<int>{1, 4, 3, 2}));
+    EXPECT_EQ(store.current_index(), 1);
+    EXPECT_EQ(current_mark(store), 4);
+    EXPECT_TRUE(store.swap_tiles(3, 0));
+    EXPECT_EQ(marks(store), (std::vector<int>{2, 4, 3, 1}));
+    // Refused: nothing moves.
+    EXPECT_FALSE(store.swap_tiles(2, 2));
+    EXPECT_FALSE(store.swap_tiles(0, 4));
+    EXPECT_FALSE(store.swap_tiles(-1, 0));
+    EXPECT_EQ(marks(store), (std::vector<int>{2, 4, 3, 1}));
+    EXPECT_EQ(current_mark(store), 4);
+}
+
 TEST(TileStoreSizes, ByteCounts) {
     Tile_Store store(24, 24, 256);
     add_marked(store, 3);

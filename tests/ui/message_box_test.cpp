@@ -9,13 +9,12 @@
 #include "ui/backdrop.h"
 #include "ui/dialog.h"
 #include "ui/ui_style.h"
+#include "ui/ui_globals.h"
 #include "ui/image_pool.h"
 #include "app/sprites.h"
 
-class MessageBoxTest : public Headless {
-protected:
-    Message_Box box;
-};
+// The program's own message box object, made by start-up after the window.
+class MessageBoxTest : public Headless {};
 
 TEST_F(MessageBoxTest, EveryWayOfClosingEndsAMessage) {
     const std::function<void()> closers[] = {
@@ -30,13 +29,13 @@ TEST_F(MessageBoxTest, EveryWayOfClosingEndsAMessage) {
     for (const auto& close : closers) {
         Event_Script script;
         script.then(close);
-        box.note("Short note, quite a bit wider than the button");
+        g_message_box->note("Short note, quite a bit wider than the button");
         EXPECT_FALSE(script.ran_out());
     }
     Event_Script script;
     script.then([] { push_key(13); }).then([] { push_key(13); });
-    box.warning("Careful");
-    box.show_statistics("Tiles: 3\rFile size: 11");
+    g_message_box->warning("Careful");
+    g_message_box->show_statistics("Tiles: 3\rFile size: 11");
     EXPECT_FALSE(script.ran_out());
     EXPECT_EQ(script.left(), 0u);
 }
@@ -44,10 +43,10 @@ TEST_F(MessageBoxTest, EveryWayOfClosingEndsAMessage) {
 TEST_F(MessageBoxTest, TheQuestionIsAnsweredByOkOrCancel) {
     Event_Script yes;
     yes.then([] { push_key('y'); });
-    EXPECT_TRUE(box.ask("Quit", "Quit Mosswick?"));
+    EXPECT_TRUE(g_message_box->ask("Quit", "Quit Mosswick?"));
     Event_Script escape;
     escape.then([] { push_key(27); });
-    EXPECT_FALSE(box.ask("Quit", "Quit Mosswick?"));
+    EXPECT_FALSE(g_message_box->ask("Quit", "Quit Mosswick?"));
 }
 
 TEST_F(MessageBoxTest, AboutNamesVersionWindowSizeAndRenderer) {
@@ -66,7 +65,7 @@ TEST_F(MessageBoxTest, AboutNamesVersionWindowSizeAndRenderer) {
 
     Event_Script script;
     script.then([] { push_key(13); });
-    box.show_about();
+    g_message_box->show_about();
     EXPECT_FALSE(script.ran_out());
     // The logo stands in the first row of the box, above the text.
     const SDL_FRect& logo = g_main_window->pool().sprite_rect(sprite_logo);

@@ -1,0 +1,49 @@
+#include "app/tile_views.h"
+
+#include "app/commands.h"
+#include "color/arrange_dialog.h"
+#include "document/tileset.h"
+#include "ui/options.h"
+#include "ui/real_size_view.h"
+#include "ui/repeated_view.h"
+#include "ui/ui_globals.h"
+
+namespace {
+constexpr int default_checker = 6;
+
+// A tile chosen in a view is shown in the strip too, as a click there would.
+int chose(Tileset& tileset) {
+    tileset.strip().make_current_visible();
+    return command_select_tile;
+}
+}  // namespace
+
+int view_in_real_size(Tileset& tileset) {
+    Tile_Store& store = tileset.store();
+    const int chosen = show_real_size(store);
+    if (chosen == store.current_index()) return -1;
+    store.go_to(chosen);
+    return chose(tileset);
+}
+
+int arrange_tiles(Tileset& tileset) {
+    Tile_Store& store = tileset.store();
+    const int before = store.current_index();
+    Arrange_Dialog dialog(Arrange_Dialog::default_columns, Arrange_Dialog::default_rows,
+                          Arrange_Dialog::default_cell, Arrange_Dialog::default_cell, store);
+    if (dialog.run()) {
+        // The records name tiles by their place, which the swaps changed.
+        tileset.history().restart(store);
+        tileset.strip().make_current_visible();
+        return command_arrange_select;
+    }
+    return store.current_index() == before ? -1 : chose(tileset);
+}
+
+void view_tile_array(Tileset& tileset) {
+    const Tile* tile = tileset.store().current_tile();
+    if (!tile) return;
+    const int w = g_options ? g_options->get(Options::alpha_grid_width) : default_checker;
+    const int h = g_options ? g_options->get(Options::alpha_grid_height) : default_checker;
+    show_repeated_view(*tile, w, h);
+}

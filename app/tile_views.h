@@ -1,0 +1,16 @@
+#pragma once
+
+class Tileset;
+
+// The tileset's views that may change which tile is current or where tiles
+// stand. Each answers with the command the dispatch goes on with: the one
+// to record and to refresh the canvas after, or -1 when nothing changed.
+
+// "View in real size": "Select tile" when another tile was chosen in it.
+int view_in_real_size(Tileset& tileset);
+// "Arrange/Select": the command itself when tiles were swapped (the undo
+// history then starts again from the current tile), "Select tile" when
+// only another tile was made current.
+int arrange_tiles(Tileset& tileset);
+// "View tile array": shows the current tile repeated; changes nothing.
+void view_tile_array(Tileset& tileset);
