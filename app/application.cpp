@@ -4,8 +4,10 @@
 
 #include <cstdio>
 #include <filesystem>
+#include <string>
 #include <system_error>
 
+#include "app/brush_pad_pane.h"
 #include "app/data_directory.h"
 #include "app/debug_log.h"
 #include "app/editor.h"
@@ -16,6 +18,7 @@
 #include "app/recovery.h"
 #include "app/sdl_tile_texture.h"
 #include "app/tool_options.h"
+#include "brushpad/brush_pad_file.h"
 #include "color/color_database.h"
 #include "color/palette.h"
 #include "document/tile_texture.h"
@@ -23,6 +26,11 @@
 #include "ui/message_box.h"
 #include "ui/options.h"
 #include "ui/ui_globals.h"
+
+namespace {
+// Why "brushpad.dat" was refused at start-up, told to the user over the first frame.
+std::string pad_damage;
+}  // namespace
 
 int Application::main() {
     // Keys arrive as the unshifted key, so Shift+R is R with Shift held, as
@@ -55,8 +63,11 @@ void Application::start_up() {
         g_debug_log->warn("%s damaged (%s): built-in pages used", Palette::default_file,
                           g_palette->damage_report().c_str());
     g_message_box = new Message_Box();
-    // The brush pad store joins the pane here, read from "brushpad.dat".
     g_tool_options = new Tool_Options_Pane(816, 32);
+    pad_damage = g_tool_options->brush_pad().load(Brush_Pad_File::default_name);
+    if (!pad_damage.empty())
+        g_debug_log->warn("%s refused (%s): the pad starts empty and the file is kept as it is",
+                          Brush_Pad_File::default_name, pad_damage.c_str());
     Data_Directory::leave();
     g_color_database = new Color_Database();
     g_prompt_dialogs = new Prompt_Dialogs();
@@ -67,7 +78,15 @@ void Application::start_up() {
     g_options->load();
 }
 
-void Application::run() { g_editor->run(recovery::start_note(recovery::folder())); }
+void Application::run() {
+    std::string note = recovery::start_note(recovery::folder());
+    if (!pad_damage.empty()) {
+        if (!note.empty()) note += "\r";
+        note += std::string("The brush pad file \"") + Brush_Pad_File::default_name + "\" was refused (" + pad_damage +
+                "):\rthe pad starts empty and the file is left as it is.";
+    }
+    g_editor->run(note);
+}
 
 // Not the mirror of start-up: the options go first and the editor second, and
 // the data directory is entered again only around the files written there.
@@ -85,6 +104,7 @@ void Application::shut_down() {
     Data_Directory::enter(Data_Directory::data);
     delete g_palette;
     g_palette = nullptr;
+    g_tool_options->brush_pad().save_if_changed(Brush_Pad_File::default_name);
     delete g_tool_options;
     g_tool_options = nullptr;
     Data_Directory::leave();

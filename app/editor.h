@@ -16,6 +16,7 @@ class Drawing_Tools;
 class Menu_Bar;
 class Stroke_Action;
 class Stroke_Change;
+class Tile;
 class Tileset_Tabs;
 class Tileset_Navigation;
 class Tool_Bar;
@@ -52,6 +53,10 @@ public:
     void run_command(int command);
     void press();
     void select_tool(int command);
+    // Makes a copy of the image the stamp brush's temporary brush and chooses
+    // the stamp brush; a negative hotspot is the image's middle. False, and
+    // nothing changes, for an image of no pixels.
+    bool use_as_brush(const Tile& image, int hot_x = -1, int hot_y = -1);
 
     bool quit_requested() const { return quit; }
     int current_tool() const { return tool; }
@@ -93,6 +98,8 @@ private:
     // What a command handler returns when the model refused it.
     static constexpr int command_refused = -2;
     int refuse(const char* why);
+    int move_to_pad();
+    int delete_pad_brush();
 
     Tileset_List open;
     bool quit = false;

@@ -2,6 +2,7 @@
 // ends here as a command number.
 #include <string>
 
+#include "app/brush_pad_pane.h"
 #include "app/canvas_view.h"
 #include "app/commands.h"
 #include "app/debug_log.h"
@@ -115,16 +116,10 @@ int Editor::execute(int command) {
                 select_tool(command_circle);
                 break;
             case command_move_to_pad:
-                g_message_box->note(current_tool() == command_stamp_brush
-                                        ? "Failed to add brush to pad. Either it's already there,\rthere is no current brush or the pad is full."
-                                        : "Select stamp brush tool to copy the current brush to the pad.");
-                result = -1;
+                if (move_to_pad() == command_refused) return -1;
                 break;
             case command_delete_brush:
-                g_message_box->note(current_tool() == command_stamp_brush
-                                        ? "There is no brush selected to delete from the pad."
-                                        : "Select stamp brush tool to delete the current brush.");
-                result = -1;
+                if (delete_pad_brush() == command_refused) return -1;
                 break;
             case command_color_editor:
                 color_editor->run(g_tool_options->tool_color(0));
@@ -356,4 +351,30 @@ void Editor::context_info() {
     } else if (open.current()) {
         g_message_box->show_statistics(open.current()->statistics_text());
     }
+}
+
+// The pad keeps the user's brushes across sessions, not the tileset's
+// history: its changes are not undo records.
+int Editor::move_to_pad() {
+    if (tool != command_stamp_brush) return refuse("Select stamp brush tool to copy the current brush to the pad.");
+    switch (g_tool_options->brush_pad().move_to_pad(&g_tool_options->brush())) {
+        case Brush_Pad::Add_Result::added: return command_move_to_pad;
+        case Brush_Pad::Add_Result::unusable: return refuse("Unable to add a new brush for some reason.");
+        default:
+            return refuse(
+                "Failed to add brush to pad. Either it's already there,\rthere is no current brush or the pad is full.");
+    }
+}
+
+int Editor::delete_pad_brush() {
+    if (tool != command_stamp_brush) return refuse("Select stamp brush tool to delete the current brush.");
+    if (!g_tool_options->brush_pad().delete_selected())
+        return refuse("There is no brush selected to delete from the pad.");
+    return command_delete_brush;
+}
+
+bool Editor::use_as_brush(const Tile& image, int hot_x, int hot_y) {
+    if (!g_tool_options->brush_pad().take_temporary(image, hot_x, hot_y)) return false;
+    select_tool(command_stamp_brush);
+    return true;
 }

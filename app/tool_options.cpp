@@ -1,14 +1,15 @@
 #include "app/tool_options.h"
 
+#include "app/brush_pad_pane.h"
 #include "app/canvas_view.h"
 #include "app/color_readout.h"
 #include "app/commands.h"
+#include "app/editor.h"
 #include "app/globals.h"
 #include "app/main_window.h"
 #include "ui/info_panes.h"
 #include "ui/options.h"
 #include "ui/setting_panes.h"
-#include "ui/text_pane.h"
 #include "ui/text_writer.h"
 #include "ui/textlist_dialog_item.h"
 #include "ui/ui_globals.h"
@@ -79,7 +80,7 @@ Tool_Options_Pane::Tool_Options_Pane(int x, int y) : Pane(Rectangle{x, y, width,
         if (is_dialog_row(id))
             for (const auto& r : static_cast<Dialog_Pane&>(*rows[size_t(id)]).container().rows())
                 r->set_writer(&g_main_window->writer(font_pane));
-    pad = std::make_unique<Text_Pane>(Rectangle{x + pad_offset, client.y, pad_width, pad_height}, "Brush pad");
+    pad = std::make_unique<Brush_Pad_Pane>(x + pad_offset, client.y);
     const Rectangle mixers = colors->mixer_stack();
     adjust_area = Rectangle{mixers.x, mixers.y + mixers.height + Color_Tools::gap, 110, 27};
     layout_page();
@@ -153,10 +154,7 @@ void Tool_Options_Pane::draw() {
     if (p.location) rows[row_location]->draw();
     for (int i = 0; i < p.row_count; ++i) rows[size_t(p.rows[i])]->draw();
     w.next_group();
-    pad->draw();
-    Text_Writer& writer = w.writer(font_pane);
-    const Rectangle c = pad->client_area();
-    writer.write_at(c.x + 2, c.y, "The pad is empty.");
+    pad->draw(&brush());
     w.bevel_fill(adjust_area, button_face_color);
     Text_Writer& label = w.writer(font_regular);
     label.write_at(adjust_area.x + (adjust_area.width - label.measure(adjust_label)) / 2,
@@ -187,6 +185,12 @@ bool Tool_Options_Pane::click(int button, int x, int y) {
         for (int i = 0; i < p.row_count; ++i)
             if (click_row(p.rows[i], x, y)) return true;
     }
+    if (pad->click(x, y)) {
+        // A brush picked on the pad is meant to be stamped with.
+        if (pad->take_picked() && current_tool != command_stamp_brush && g_editor)
+            g_editor->select_tool(command_stamp_brush);
+        return true;
+    }
     return false;
 }
 
@@ -202,6 +206,16 @@ void Tool_Options_Pane::tool_color_changed(int index, Color c) {
 void Tool_Options_Pane::store_brush_slot() {
     const int slot = brush_slot(current_tool);
     if (slot >= 0) slots[size_t(slot)] = Slot{brush_selector->shape(), brush_selector->size()};
+}
+
+const Tile& Tool_Options_Pane::stamp_image() const {
+    const Brush_Pad_Pane::Stamp s = pad->current();
+    return s.image ? *s.image : static_cast<const Tile&>(brush());
+}
+
+SDL_Point Tool_Options_Pane::stamp_hotspot() const {
+    const Brush_Pad_Pane::Stamp s = pad->current();
+    return s.image ? SDL_Point{s.hot_x, s.hot_y} : SDL_Point{-1, -1};
 }
 
 void Tool_Options_Pane::select_brush_size(int size) { select_brush(brush_selector->shape(), size); }

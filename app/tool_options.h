@@ -14,8 +14,8 @@ class Canvas_View;
 class Color_Readout;
 class Location_Info;
 class Number_Info;
+class Brush_Pad_Pane;
 class Option_Pane;
-class Text_Pane;
 class Tick_Pane;
 
 // The options of the tool in use, at the right of the window: one page per
@@ -66,6 +66,12 @@ public:
     // The brush's pixel (hot, hot) lies on the cell under the pointer:
     // centred, rounding up and left, as the strokes stamp it.
     int brush_hotspot() const { return (brush_selector->size() - 1) / 2; }
+    // The brush pad and the temporary brush beside the pages.
+    Brush_Pad_Pane& brush_pad() { return *pad; }
+    // What the stamp brush draws with: the temporary brush, else the pad's
+    // selected brush, else the built-in brush; a negative hotspot is the middle.
+    const Tile& stamp_image() const;
+    SDL_Point stamp_hotspot() const;
     // Size 1 to 6 of the current shape, kept in the current tool's slot.
     void select_brush_size(int size);
     void select_brush(int shape, int size);
@@ -112,7 +118,7 @@ private:
     std::unique_ptr<Color_Tools> colors;
     std::unique_ptr<Brush_Selector> brush_selector;
     std::array<std::unique_ptr<Pane>, tool_pages::row_count> rows;
-    std::unique_ptr<Text_Pane> pad;
+    std::unique_ptr<Brush_Pad_Pane> pad;
     Rectangle adjust_area{};
     struct Slot {
         int shape = 0;

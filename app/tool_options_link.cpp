@@ -12,8 +12,9 @@ void link_tool_options(Stroke_Context& context) {
         s.right_color = t.tool_color(1);
         s.brush = &t.brush();
         s.brush_width = t.brush_size();
-        // Until brushes are kept on the pad, the stamp is the built-in brush.
-        s.stamp = &t.brush();
+        s.stamp = &t.stamp_image();
+        s.stamp_hot_x = t.stamp_hotspot().x;
+        s.stamp_hot_y = t.stamp_hotspot().y;
         s.stamp_mode = t.stamp_mode();
         s.rectangle_type = t.rectangle_type();
         s.ellipse_type = t.ellipse_type();

@@ -12,9 +12,9 @@ int wrap(int v, int n) {
 }
 }  // namespace
 
-int Brush_Stamp::hot_x() const { return (image.width() - 1) / 2; }
+int Brush_Stamp::hot_x() const { return hot.x >= 0 && hot.x < image.width() ? hot.x : (image.width() - 1) / 2; }
 
-int Brush_Stamp::hot_y() const { return (image.height() - 1) / 2; }
+int Brush_Stamp::hot_y() const { return hot.y >= 0 && hot.y < image.height() ? hot.y : (image.height() - 1) / 2; }
 
 void Brush_Stamp::stamp(Painter& painter, int left, int top) const {
     const int w = image.width();

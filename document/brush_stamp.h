@@ -22,9 +22,13 @@ public:
     }
 
     // The brush pixel that lies under the pointer: the middle, rounding up
-    // and left, as the pen's brushes are centred.
+    // and left, as the pen's brushes are centred, unless a pad brush brings
+    // its own. A hotspot outside the image keeps the middle.
     int hot_x() const;
     int hot_y() const;
+    void set_hotspot(int x, int y) {
+        hot = {x, y};
+    }
 
     void stamp(Painter& painter, int left, int top) const;
     // The brush at every point of the line between two corners, so a quick
@@ -36,4 +40,5 @@ private:
     int mode;
     Color flat{};
     bool use_flat = false;
+    struct { int x, y; } hot{-1, -1};
 };

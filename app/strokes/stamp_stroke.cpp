@@ -11,7 +11,8 @@ void Stamp_Stroke::begin(Canvas_View& view, Cell& start, int button) {
     hot_x = 0;
     hot_y = 0;
     if (const Tile* image = context.settings.stamp) {
-        const Brush_Stamp stamp(*image, context.settings.stamp_mode);
+        Brush_Stamp stamp(*image, context.settings.stamp_mode);
+        stamp.set_hotspot(context.settings.stamp_hot_x, context.settings.stamp_hot_y);
         hot_x = stamp.hot_x();
         hot_y = stamp.hot_y();
     }

@@ -23,6 +23,9 @@ struct Tool_Settings {
     // The stamp brush's image in its own colours (transparent pixels are left
     // out); none stamps one pixel.
     const Tile* stamp = nullptr;
+    // The stamp's pixel that lies under the pointer; -1 is the image's middle.
+    int stamp_hot_x = -1;
+    int stamp_hot_y = -1;
     int stamp_mode = 0;      // "Brush,Pattern$"
     // Out of 256: how much of the carried colour each smudge step keeps.
     int smudge_strength = Smudge::default_strength;

@@ -1,0 +1,143 @@
+#include "brushpad/brush_pad_file.h"
+
+#include <unistd.h>
+
+#include <charconv>
+#include <cstdio>
+#include <cstdlib>
+#include <filesystem>
+#include <system_error>
+
+#include "app/data_file.h"
+#include "app/token_stream.h"
+#include "brushpad/brush_pad.h"
+
+namespace fs = std::filesystem;
+
+namespace {
+// Every token must be a whole decimal number inside the 32-bit range; the
+// stream's own number reading would turn rubbish into 0 silently.
+class Strict_Reader {
+public:
+    explicit Strict_Reader(Token_Stream& stream) : stream(stream) {}
+
+    bool next(int32_t& value) {
+        if (stream.at_end()) {
+            fault = "the file ends early";
+            return false;
+        }
+        const std::string token = stream.read_text();
+        const char* first = token.data();
+        const char* last = first + token.size();
+        const auto [end, error] = std::from_chars(first, last, value);
+        if (error != std::errc() || end != last || token.empty()) {
+            fault = "a value that is not a 32-bit number";
+            return false;
+        }
+        return true;
+    }
+
+    std::string fault;
+
+private:
+    Token_Stream& stream;
+};
+
+std::string read_pad(Brush_Pad& pad, Token_Stream& stream) {
+    Strict_Reader in(stream);
+    int32_t version = 0, count = 0, selected = 0;
+    if (!in.next(version)) return in.fault;
+    if (version != Brush_Pad_File::version) return "an unknown version " + std::to_string(version);
+    if (!in.next(count) || !in.next(selected)) return in.fault;
+    if (count < 0) return "a negative brush count";
+    if (count > Brush_Pad::capacity) return "more brushes than the pad holds";
+    if (selected < -1 || selected >= count) return "a selected brush that is not on the pad";
+    for (int32_t i = 0; i < count; ++i) {
+        int32_t width = 0, height = 0, hot_x = 0, hot_y = 0;
+        if (!in.next(width) || !in.next(height) || !in.next(hot_x) || !in.next(hot_y)) return in.fault;
+        if (width < 1 || height < 1 || width > Brush_Pad::max_side || height > Brush_Pad::max_side)
+            return "a brush size outside 1 to 64";
+        if (!Brush_Pad::usable(width, height, hot_x, hot_y)) return "a hotspot outside its brush";
+        bool ok = true;
+        auto image = std::make_unique<Tile>(width, height, [&](Color* pixels) {
+            for (int32_t p = 0; p < width * height; ++p) {
+                int32_t word = 0;
+                if (ok && !in.next(word)) ok = false;
+                pixels[p] = Color::from_word(uint32_t(word));
+            }
+        });
+        if (!ok) return in.fault;
+        pad.append_loaded(Pad_Brush{std::move(image), hot_x, hot_y});
+    }
+    pad.select_loaded(selected);
+    return {};
+}
+}  // namespace
+
+Brush_Pad_File::Load_Result Brush_Pad_File::load(Brush_Pad& pad, const std::string& path) {
+    Load_Result result;
+    pad.clear();
+    pad.mark_saved();
+    Data_File file(path);
+    if (!file.open_read()) return result;
+    result.found = true;
+    Token_Stream stream;
+    stream.read_from(file);
+    file.close();
+    result.damage = read_pad(pad, stream);
+    if (!result.damage.empty()) pad.clear();
+    return result;
+}
+
+std::string Brush_Pad_File::encode(const Brush_Pad& pad) {
+    Token_Stream stream;
+    stream.write_number(version);
+    stream.write_number(pad.count());
+    stream.write_number(pad.selected());
+    for (int i = 0; i < pad.count(); ++i) {
+        const Pad_Brush& b = pad.brush(i);
+        stream.write_number(b.image->width());
+        stream.write_number(b.image->height());
+        stream.write_number(b.hot_x);
+        stream.write_number(b.hot_y);
+        const Color* pixels = b.image->pixels();
+        for (int p = 0; p < b.image->pixel_count(); ++p) stream.write_number(int32_t(pixels[p].word()));
+    }
+    return stream.text();
+}
+
+bool Brush_Pad_File::save(Brush_Pad& pad, const std::string& path) {
+    std::error_code error;
+    const fs::path target = fs::path(path);
+    // A fresh name beside the target, so the rename never crosses file systems.
+    std::string temporary = (target.parent_path() / (target.filename().string() + ".XXXXXX")).string();
+    if (target.parent_path().empty()) temporary = target.filename().string() + ".XXXXXX";
+    const int fd = mkstemp(temporary.data());
+    if (fd < 0) return false;
+    close(fd);
+    bool written = false;
+    {
+        Data_File file(temporary);
+        if (file.open_write()) {
+            Token_Stream stream(encode(pad));
+            written = stream.write_to(file) && std::fflush(file.stream()) == 0 && fsync(fileno(file.stream())) == 0;
+            file.close();
+        }
+    }
+    if (written) {
+        // A new file is readable by all, as the program's other data files are.
+        fs::perms permissions = fs::status(target, error).permissions();
+        if (error || permissions == fs::perms::unknown)
+            permissions = fs::perms::owner_read | fs::perms::owner_write | fs::perms::group_read | fs::perms::others_read;
+        error.clear();
+        fs::permissions(temporary, permissions, error);
+        error.clear();
+        fs::rename(temporary, target, error);
+        if (!error) {
+            pad.mark_saved();
+            return true;
+        }
+    }
+    fs::remove(temporary, error);
+    return false;
+}

@@ -1,0 +1,273 @@
+// The brush pad beside the tool options: the temporary brush, "Move to pad",
+// "Delete brush", the pad pane's clicks and drawing, stamping with a pad
+// brush, and the pad kept in "brushpad.dat" across real start-ups.
+#include <sys/stat.h>
+
+#include <filesystem>
+
+#include "app/application.h"
+#include "app/brush_pad_pane.h"
+#include "app/debug_log.h"
+#include "app/tool_options.h"
+#include "app/undo_control.h"
+#include "tests/app/drawing_fixture.h"
+#include "tests/ui/event_script.h"
+
+namespace fs = std::filesystem;
+
+namespace {
+const Color red(220, 20, 30);
+const Color green(30, 200, 40);
+const Color blue(10, 40, 230);
+const Color black(0, 0, 0);
+const Color white(255, 255, 255);
+const Color yellow(250, 230, 20);
+const Color clear(0, 0, 0, 0);
+
+// 3 x 2:  red   clear  blue
+//         clear green  red
+std::unique_ptr<Tile> make_brush() {
+    auto t = std::make_unique<Tile>(3, 2);
+    const Color pixels[6] = {red, clear, blue, clear, green, red};
+    for (int i = 0; i < 6; ++i) t->set_pixel(i % 3, i / 3, pixels[i]);
+    return t;
+}
+
+std::unique_ptr<Tile> solid(int w, int h, Color c) {
+    auto t = std::make_unique<Tile>(w, h);
+    t->fill(c);
+    return t;
+}
+
+Brush_Pad_Pane& pad_pane() { return g_tool_options->brush_pad(); }
+const Brush_Pad& pad() { return g_tool_options->brush_pad().store(); }
+
+class BrushPad : public Drawing {
+protected:
+    static void click(int x, int y, Uint8 button = SDL_BUTTON_LEFT) {
+        push_click(x, y, button);
+        pump();
+    }
+    static void click(const Rectangle& r) { click(r.x + r.width / 2, r.y + r.height / 2); }
+    // Runs a command that must be refused with a note; the note's "Ok" is
+    // pressed by the script.
+    static void expect_refused(int command) {
+        Event_Script script;
+        script.then([] { push_key(SDLK_RETURN); });
+        const int count = pad().count();
+        EXPECT_EQ(g_editor->execute(command), -1) << command;
+        EXPECT_EQ(script.left(), 0u) << "no note for " << command;
+        EXPECT_EQ(pad().count(), count);
+    }
+    void restart() {
+        Application::shut_down();
+        Application::start_up();
+        ASSERT_TRUE(g_editor->begin());
+        g_editor->canvas().repaint = [] {
+            Backdrop::paint();
+            g_main_window->present();
+        };
+        drop_pending_events();
+    }
+    fs::path pad_file() const { return work_dir / "data" / "brushpad.dat"; }
+};
+
+// Checks the 3 x 2 brush at the corner (x, y): the given colours where the
+// brush is drawn, black where it is clear and all around it.
+void expect_brush_at(int x, int y, Color a, Color b, Color c, Color d) {
+    const Tile& t = *g_editor->canvas().tile();
+    EXPECT_EQ(t.get_pixel(x, y), a);
+    EXPECT_EQ(t.get_pixel(x + 1, y), black);
+    EXPECT_EQ(t.get_pixel(x + 2, y), b);
+    EXPECT_EQ(t.get_pixel(x, y + 1), black);
+    EXPECT_EQ(t.get_pixel(x + 1, y + 1), c);
+    EXPECT_EQ(t.get_pixel(x + 2, y + 1), d);
+    for (int i = -1; i <= 3; ++i) {
+        EXPECT_EQ(t.get_pixel(x + i, y - 1), black) << i;
+        EXPECT_EQ(t.get_pixel(x + i, y + 2), black) << i;
+    }
+    EXPECT_EQ(t.get_pixel(x - 1, y), black);
+    EXPECT_EQ(t.get_pixel(x + 3, y + 1), black);
+}
+}  // namespace
+
+TEST_F(BrushPad, APadBrushStampsAtItsHotspotInBothModesWithBothButtons) {
+    set_colors(white, yellow);
+    ASSERT_TRUE(g_editor->use_as_brush(*make_brush(), 0, 1));
+    g_editor->run_command(command_move_to_pad);
+    ASSERT_EQ(pad().count(), 1);
+    ASSERT_FALSE(pad_pane().has_temporary());
+
+    // "Brush": the hotspot (0, 1) under the pointer puts the corner at (5, 4).
+    stroke({{5, 5}});
+    expect_brush_at(5, 4, red, blue, green, red);
+    EXPECT_EQ(on_screen(6, 5), green);
+    ASSERT_TRUE(g_editor->undo().undo());
+    stroke({{5, 5}}, SDL_BUTTON_RIGHT);
+    expect_brush_at(5, 4, yellow, yellow, yellow, yellow);
+    ASSERT_TRUE(g_editor->undo().undo());
+
+    // "Pattern": pixel (x, y) shows the brush's (x mod 3, y mod 2) over the
+    // brush-sized area at the same corner, so the columns 5, 6, 7 show the
+    // brush's columns 2, 0, 1.
+    const Rectangle mode = g_tool_options->row(tool_pages::row_stamp_mode).client_area();
+    click(mode.x + 4, mode.y + 4);
+    ASSERT_EQ(g_tool_options->stamp_mode(), 1);
+    stroke({{5, 5}});
+    const Tile& t = tile();
+    EXPECT_EQ(t.get_pixel(5, 4), blue);
+    EXPECT_EQ(t.get_pixel(6, 4), red);
+    EXPECT_EQ(t.get_pixel(7, 4), black);
+    EXPECT_EQ(t.get_pixel(5, 5), red);
+    EXPECT_EQ(t.get_pixel(6, 5), black);
+    EXPECT_EQ(t.get_pixel(7, 5), green);
+    EXPECT_EQ(t.get_pixel(8, 4), black);
+    EXPECT_EQ(t.get_pixel(4, 5), black);
+    EXPECT_EQ(t.get_pixel(6, 3), black);
+    EXPECT_EQ(t.get_pixel(6, 6), black);
+    ASSERT_TRUE(g_editor->undo().undo());
+    stroke({{5, 5}}, SDL_BUTTON_RIGHT);
+    EXPECT_EQ(t.get_pixel(5, 4), yellow);
+    EXPECT_EQ(t.get_pixel(6, 4), yellow);
+    EXPECT_EQ(t.get_pixel(7, 4), black);
+    EXPECT_EQ(t.get_pixel(6, 5), black);
+    EXPECT_EQ(t.get_pixel(7, 5), yellow);
+    EXPECT_EQ(t.get_pixel(8, 5), black);
+}
+
+TEST_F(BrushPad, UseAsBrushMoveToPadAndDeleteBrushWithTheirRefusals) {
+    // Away from the stamp brush both pad commands ask for it.
+    expect_refused(command_move_to_pad);
+    expect_refused(command_delete_brush);
+
+    // The temporary brush: the stamp brush is chosen and draws with it,
+    // centred, before it is on the pad.
+    set_colors(white, yellow);
+    ASSERT_TRUE(g_editor->use_as_brush(*make_brush()));
+    EXPECT_EQ(g_editor->current_tool(), command_stamp_brush);
+    EXPECT_EQ(g_tool_options->page(), 13);
+    stroke({{10, 10}});
+    expect_brush_at(9, 10, red, blue, green, red);
+    const int records = g_editor->current()->history().count();
+    // Not on the pad, so there is nothing selected to delete.
+    expect_refused(command_delete_brush);
+
+    g_editor->run_command(command_move_to_pad);
+    EXPECT_EQ(pad().count(), 1);
+    EXPECT_EQ(pad().selected(), 0);
+    EXPECT_FALSE(pad_pane().has_temporary());
+    // The pad's selected brush is the current one: it is already there.
+    expect_refused(command_move_to_pad);
+    // Too large for the pad.
+    ASSERT_TRUE(g_editor->use_as_brush(*solid(65, 2, red)));
+    expect_refused(command_move_to_pad);
+
+    // Picking the pad's brush drops the temporary one; then it is deleted.
+    click(pad_pane().cell_rect(0));
+    EXPECT_FALSE(pad_pane().has_temporary());
+    g_editor->run_command(command_delete_brush);
+    EXPECT_TRUE(pad().empty());
+    expect_refused(command_delete_brush);
+    // With nothing chosen the stamp is the built-in brush again, and it can
+    // go onto the pad too.
+    EXPECT_EQ(&g_tool_options->stamp_image(), static_cast<const Tile*>(&g_tool_options->brush()));
+    g_editor->run_command(command_move_to_pad);
+    EXPECT_EQ(pad().count(), 1);
+    // Nothing of this is recorded for undo: the pad is not the tileset's.
+    EXPECT_EQ(g_editor->current()->history().count(), records);
+}
+
+TEST_F(BrushPad, ThePanePagesShowsAndSelectsBrushesByClicks) {
+    const Rectangle first_cell = pad_pane().cell_rect(0);
+    // Seventeen brushes of different sizes and colours: two pages.
+    for (int i = 0; i < 17; ++i) {
+        const Color c(uint8_t(10 * i), uint8_t(200 - 5 * i), uint8_t(40 + i));
+        ASSERT_EQ(pad_pane().store().add(*solid(8 + 3 * i, 4 + i, c), 0, 0), Brush_Pad::Add_Result::added);
+    }
+    auto colour_of = [](int i) { return Color(uint8_t(10 * i), uint8_t(200 - 5 * i), uint8_t(40 + i)); };
+    pad_pane().store().select(-1);
+    click(pad_pane().previous_button());
+    EXPECT_EQ(pad_pane().page(), 0);
+    g_editor->repaint(false);
+    // Each brush at its real size, centred in its cell.
+    EXPECT_EQ(read_pixel(first_cell.x + 32, first_cell.y + 32), colour_of(0));
+    EXPECT_NE(read_pixel(first_cell.x + 32 - 5, first_cell.y + 32), colour_of(0));
+    const Rectangle third = pad_pane().cell_rect(2);
+    // Brush 2 is 14 x 6: its corner lies at (25, 29) in the cell.
+    EXPECT_EQ(read_pixel(third.x + 25, third.y + 29), colour_of(2));
+    EXPECT_NE(read_pixel(third.x + 24, third.y + 29), colour_of(2));
+
+    // A click selects the brush and chooses the stamp brush, which draws with it.
+    click(third);
+    EXPECT_EQ(pad().selected(), 2);
+    EXPECT_EQ(g_editor->current_tool(), command_stamp_brush);
+    EXPECT_EQ(&g_tool_options->stamp_image(), pad().brush(2).image.get());
+    // "Selected" shows it enlarged: 14 x 6 at eight times.
+    const Rectangle view = pad_pane().view_for(*pad().brush(2).image);
+    EXPECT_EQ(view.width, 14 * 8);
+    g_editor->repaint(false);
+    EXPECT_EQ(read_pixel(view.x + 1, view.y + 1), colour_of(2));
+    EXPECT_EQ(read_pixel(view.x + view.width - 1, view.y + view.height - 1), colour_of(2));
+
+    // The second page holds brushes 16 and 17; a press on an empty cell
+    // changes nothing, and the page does not go past the last.
+    click(pad_pane().next_button());
+    EXPECT_EQ(pad_pane().page(), 1);
+    click(pad_pane().next_button());
+    EXPECT_EQ(pad_pane().page(), 1);
+    click(pad_pane().cell_rect(5));
+    EXPECT_EQ(pad().selected(), 2);
+    click(pad_pane().cell_rect(1));
+    EXPECT_EQ(pad().selected(), 16);
+    g_editor->repaint(false);
+    EXPECT_EQ(read_pixel(first_cell.x + 32, first_cell.y + 32), colour_of(15));
+    // Deleting the last brush shows the page of the one now selected.
+    g_editor->run_command(command_delete_brush);
+    EXPECT_EQ(pad().selected(), 15);
+    g_editor->run_command(command_delete_brush);
+    EXPECT_EQ(pad().selected(), 14);
+    EXPECT_EQ(pad_pane().page(), 0);
+    EXPECT_EQ(pad_pane().page_count(), 1);
+}
+
+TEST_F(BrushPad, ThePadIsKeptAcrossStartUpsAndWrittenOnlyWhenChanged) {
+    ASSERT_TRUE(g_editor->use_as_brush(*make_brush(), 2, 0));
+    g_editor->run_command(command_move_to_pad);
+    restart();
+    ASSERT_EQ(pad().count(), 1);
+    EXPECT_EQ(pad().selected(), 0);
+    EXPECT_EQ(pad().brush(0).hot_x, 2);
+    EXPECT_EQ(pad().brush(0).image->get_pixel(1, 1), green);
+    EXPECT_EQ(pad().brush(0).image->get_pixel(1, 0), clear);
+
+    // Unchanged: the file is not written again (same inode, same old time).
+    const fs::file_time_type old_time = fs::file_time_type::clock::now() - std::chrono::hours(24);
+    fs::last_write_time(pad_file(), old_time);
+    struct stat before {};
+    ASSERT_EQ(stat(pad_file().c_str(), &before), 0);
+    click(pad_pane().cell_rect(0));  // selects what is already selected
+    restart();
+    struct stat after {};
+    ASSERT_EQ(stat(pad_file().c_str(), &after), 0);
+    EXPECT_EQ(after.st_ino, before.st_ino);
+    EXPECT_EQ(fs::last_write_time(pad_file()), old_time);
+    EXPECT_EQ(pad().count(), 1);
+}
+
+TEST_F(BrushPad, ARefusedFileLeavesThePadEmptyAndIsNeverWrittenOver) {
+    const std::vector<unsigned char> hostile = {8, 0, 0, 0, '1', ',', '1', ',', '0', ',', '9', ':'};
+    write_bytes(pad_file().string(), hostile);
+    restart();
+    EXPECT_TRUE(pad().empty());
+    EXPECT_TRUE(pad_pane().file_refused());
+    bool warned = false;
+    for (const std::string& line : g_debug_log->lines()) warned |= line.find("brushpad.dat refused") != std::string::npos;
+    EXPECT_TRUE(warned);
+    // The user goes on working with the pad; the file stays as it was.
+    ASSERT_TRUE(g_editor->use_as_brush(*make_brush()));
+    g_editor->run_command(command_move_to_pad);
+    EXPECT_EQ(pad().count(), 1);
+    restart();
+    EXPECT_EQ(read_bytes(pad_file().string()), hostile);
+    EXPECT_TRUE(pad().empty());
+}
