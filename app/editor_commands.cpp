@@ -216,6 +216,10 @@ int Editor::execute_tileset_command(int command) {
         case command_undo_paste_tile:
             if (store.tile_count() < 2 || !store.insert_tile()) return refuse(nullptr);
             return command;
+        case command_map_editor: {
+            const int outcome = edit_map(*t);
+            return outcome < 0 ? refuse(nullptr) : outcome;
+        }
         case command_arrange_select: {
             const int outcome = arrange_tiles(*t);
             return outcome < 0 ? refuse(nullptr) : outcome;

@@ -9,6 +9,7 @@
 #include "app/globals.h"
 #include "app/image.h"
 #include "app/main_window.h"
+#include "app/map_files.h"
 #include "app/prompt_dialogs.h"
 #include "document/tileset_file.h"
 #include "ui/export_preview.h"
@@ -50,6 +51,8 @@ void Editor::save(bool save_as) {
         g_message_box->show_message("Error", Tileset_File::save_error_text);
         return;
     }
+    // The tileset is saved even when its map is not: the user was told.
+    save_map(*t);
     t->clear_modified();
 }
 
@@ -60,31 +63,17 @@ void Editor::load() {
         g_message_box->show_message("Error", Tileset_File::load_error_text);
         return;
     }
+    load_map(*open.current());
     relayout();
 }
 
-// The tiles in order, 16 to a row, on a sheet of 16 x 16 tiles whatever their
-// number; empty slots stay blank and tiles past the 256th are left out.
+// The sheet of the tiles, the same one the map beside a saved tileset uses.
 void Editor::export_bmp() {
     Tileset* t = open.current();
     if (!t) return;
     const Tile_Store& store = t->store();
-    const int tw = int(store.tile_width());
-    const int th = int(store.tile_height());
-    Image sheet(uint32_t(16 * tw), uint32_t(16 * th));
-    sheet.fill(Rectangle{0, 0, 16 * tw, 16 * th}, Image::Rgba{0, 0, 0, 255});
-    int index = 0;
-    for (const auto& tile : store.all()) {
-        if (index >= 256) break;
-        const int ox = (index % 16) * tw;
-        const int oy = (index / 16) * th;
-        for (int y = 0; y < th; ++y)
-            for (int x = 0; x < tw; ++x) {
-                const Color c = tile->get_pixel(x, y);
-                sheet.set_pixel(ox + x, oy + y, Image::Rgba{c.red, c.green, c.blue, c.alpha});
-            }
-        ++index;
-    }
+    Image sheet(16 * store.tile_width(), 16 * store.tile_height());
+    compose_sheet(store, sheet);
     if (!show_export_preview(sheet)) return;
     File_Path chosen = t->path();
     if (!choose_file(file_save_bmp, chosen)) return;

@@ -3,6 +3,7 @@
 #include "app/commands.h"
 #include "color/arrange_dialog.h"
 #include "document/tileset.h"
+#include "mapeditor/map_view.h"
 #include "ui/options.h"
 #include "ui/real_size_view.h"
 #include "ui/repeated_view.h"
@@ -38,6 +39,15 @@ int arrange_tiles(Tileset& tileset) {
         return command_arrange_select;
     }
     return store.current_index() == before ? -1 : chose(tileset);
+}
+
+int edit_map(Tileset& tileset) {
+    Tile_Store& store = tileset.store();
+    const Map_View::Outcome outcome = show_map_editor(tileset.map(), store, tileset.path().name);
+    if (outcome.changed) tileset.set_modified();
+    if (outcome.chosen < 0 || outcome.chosen == store.current_index()) return -1;
+    store.go_to(outcome.chosen);
+    return chose(tileset);
 }
 
 void view_tile_array(Tileset& tileset) {

@@ -12,5 +12,8 @@ int view_in_real_size(Tileset& tileset);
 // history then starts again from the current tile), "Select tile" when
 // only another tile was made current.
 int arrange_tiles(Tileset& tileset);
+// "Map editor": "Select tile" when a tile was chosen or picked in it that
+// is not the current one; an edited map marks the tileset modified.
+int edit_map(Tileset& tileset);
 // "View tile array": shows the current tile repeated; changes nothing.
 void view_tile_array(Tileset& tileset);

@@ -17,12 +17,14 @@ bool Tile_Store::add_tile() {
     tiles.push_back(blank_tile());
     current = std::prev(tiles.end());
     index = tile_count() - 1;
+    if (list_watcher) list_watcher->tile_inserted(index);
     return true;
 }
 
 bool Tile_Store::insert_tile() {
     if (is_full()) return false;
     current = tiles.insert(current, blank_tile());
+    if (list_watcher) list_watcher->tile_inserted(index);
     return true;
 }
 
@@ -33,6 +35,7 @@ bool Tile_Store::insert_copy(const Tile& source) {
     } else {
         current = tiles.insert(std::next(current), blank_tile());
         ++index;
+        if (list_watcher) list_watcher->tile_inserted(index);
     }
     Tile& copy = **current;
     source.copy_into(copy);
@@ -68,6 +71,7 @@ bool Tile_Store::delete_tile() {
         return false;
     }
     current = tiles.erase(current);
+    if (list_watcher) list_watcher->tile_removed(index);
     if (current == tiles.end()) {
         --current;
         --index;
@@ -78,6 +82,7 @@ bool Tile_Store::delete_tile() {
 bool Tile_Store::swap_tiles(int a, int b) {
     if (a == b || a < 0 || b < 0 || a >= tile_count() || b >= tile_count()) return false;
     std::swap(*std::next(tiles.begin(), a), *std::next(tiles.begin(), b));
+    if (list_watcher) list_watcher->tiles_swapped(a, b);
     return true;
 }
 
@@ -85,6 +90,7 @@ void Tile_Store::append(std::unique_ptr<Tile> tile) {
     const bool was_empty = tiles.empty();
     tiles.push_back(std::move(tile));
     if (was_empty) current = tiles.begin();
+    if (list_watcher) list_watcher->tile_inserted(tile_count() - 1);
 }
 
 Tile* Tile_Store::tile_at(int target) { return std::next(tiles.begin(), target)->get(); }
@@ -111,6 +117,8 @@ void Tile_Store::resize(uint32_t new_width, uint32_t new_height) {
 }
 
 void Tile_Store::clear() {
+    if (list_watcher)
+        for (int i = tile_count() - 1; i >= 0; --i) list_watcher->tile_removed(i);
     tiles.clear();
     current = tiles.end();
     index = 0;

@@ -6,6 +6,18 @@
 
 #include "document/tile.h"
 
+// Told of every change to the order of a store's tiles, so that whatever
+// names tiles by their place (the tileset's map) can follow.
+class Tile_List_Watcher {
+public:
+    virtual ~Tile_List_Watcher() = default;
+    // A tile now stands at the index; the ones from there on moved one up.
+    virtual void tile_inserted(int index) = 0;
+    // The tile at the index is gone; the ones after it moved one down.
+    virtual void tile_removed(int index) = 0;
+    virtual void tiles_swapped(int a, int b) = 0;
+};
+
 // The ordered tiles of one tileset with a current position. All tiles have the
 // store's size. Positions stay valid while other tiles are added or removed.
 class Tile_Store {
@@ -56,6 +68,9 @@ public:
     void resize(uint32_t new_width, uint32_t new_height);
     void clear();
 
+    // One watcher at a time; none to stop.
+    void watch(Tile_List_Watcher* watcher) { list_watcher = watcher; }
+
     using Tiles = std::list<std::unique_ptr<Tile>>;
     const Tiles& all() const { return tiles; }
 
@@ -68,4 +83,5 @@ private:
     int32_t maximum;
     int32_t index = 0;
     Tiles tiles;
+    Tile_List_Watcher* list_watcher = nullptr;
 };

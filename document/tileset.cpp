@@ -23,14 +23,24 @@ Tileset::Tileset(const std::string& path, uint32_t tile_width, uint32_t tile_hei
       tile_strip(*tile_store),
       navigation_pane(make_tileset_navigation(tile_strip)) {
     file_path.set(path);
+    make_map();
 }
 
 Tileset::Tileset(const std::string& path, std::unique_ptr<Tile_Store> tiles)
     : tile_store(std::move(tiles)), tile_strip(*tile_store), navigation_pane(make_tileset_navigation(tile_strip)) {
     file_path.set(path);
+    make_map();
 }
 
-Tileset::~Tileset() = default;
+Tileset::~Tileset() { tile_store->watch(nullptr); }
+
+// A new map still answers for the map file beside the tileset.
+void Tileset::make_map() {
+    const std::string own_file = map_editor ? map_editor->own_file : std::string();
+    map_editor = std::make_unique<Map_Editor>(tile_store->tile_width(), tile_store->tile_height());
+    map_editor->own_file = own_file;
+    tile_store->watch(map_editor.get());
+}
 
 void Tileset::set_modified() {
     if (modified) return;
@@ -53,6 +63,7 @@ std::string Tileset::display_name() const { return modified ? file_path.name + "
 
 void Tileset::resize_tiles(uint32_t width, uint32_t height) {
     tile_store->resize(width, height);
+    make_map();
     undo_history.clear();
 }
 

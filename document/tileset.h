@@ -9,6 +9,7 @@
 #include "document/tile_strip.h"
 #include "document/tileset_navigation.h"
 #include "document/undo_history.h"
+#include "mapeditor/map_editor.h"
 
 // The path of a document split once into its parts: the file name is what
 // follows the last separator up to the first "." after it, the extension is
@@ -41,6 +42,9 @@ public:
     const Undo_History& history() const { return undo_history; }
     Tile_Strip& strip() { return tile_strip; }
     const Tile_Strip& strip() const { return tile_strip; }
+    // The map of this tileset's tiles; made again when the tile size changes.
+    Map_Editor& map() { return *map_editor; }
+    const Map_Editor& map() const { return *map_editor; }
     // None while no display has installed its maker.
     Tileset_Navigation* navigation() { return navigation_pane.get(); }
     const File_Path& path() const { return file_path; }
@@ -76,8 +80,9 @@ private:
     // the pane places the strip in the window.
     Tile_Strip tile_strip;
     std::unique_ptr<Tileset_Navigation> navigation_pane;
-    // Joining as their own parts are built, each owned here:
-    //   the map editor of (480 / tile width) x (480 / tile height) cells,
-    //     recreated whenever the tile size changes,
+    // It watches the store's tile list, so its cells follow the tiles.
+    std::unique_ptr<Map_Editor> map_editor;
+    void make_map();
+    // Joining as its own part is built, owned here:
     //   the title text object showing display_name().
 };

@@ -1,0 +1,59 @@
+#pragma once
+
+#include <cstdint>
+#include <string>
+
+#include "document/tile_store.h"
+#include "mapeditor/map_history.h"
+#include "mapeditor/tile_map.h"
+
+// A tileset's map: its cells and their history. The map is made for
+// (480 / tile width) x (480 / tile height) cells; the tileset makes a new one
+// whenever its tile size changes. Edits come in steps: a stroke of the
+// pointer or a fill is one step to undo.
+class Map_Editor : public Tile_List_Watcher {
+public:
+    static constexpr int extent = 480;
+
+    // Sizes of 0 count as 1.
+    Map_Editor(uint32_t tile_width, uint32_t tile_height);
+
+    const Tile_Map& map() const { return cells; }
+    const Map_History& history() const { return steps; }
+    // Changes with every change of the cells, so a view knows to compose again.
+    uint64_t generation() const { return changes; }
+
+    // A stroke sets cells one by one or along a line; a negative tile erases.
+    void begin_stroke();
+    void paint(int x, int y, int tile);
+    void paint_line(int x1, int y1, int x2, int y2, int tile);
+    // True when the stroke changed a cell (and so was recorded).
+    bool end_stroke();
+    bool in_stroke() const { return stroking; }
+    // The cells joined to (x, y) across edges holding the same as it take the
+    // tile; true when anything changed. Ends an open stroke first.
+    bool fill(int x, int y, int tile);
+    bool undo();
+    bool redo();
+
+    // Cells placed in one go, as reading a map file does: no history.
+    void place(int x, int y, int tile);
+    void clear_history() { steps.clear(); }
+
+    void tile_inserted(int index) override;
+    void tile_removed(int index) override;
+    void tiles_swapped(int a, int b) override;
+
+    // The map file this map was read whole from or last written to; saving
+    // may replace that one without asking.
+    std::string own_file;
+
+private:
+    void set_cell(int cell, int tile);
+
+    Tile_Map cells;
+    Map_History steps;
+    Map_Edit open_edit;
+    bool stroking = false;
+    uint64_t changes = 0;
+};

@@ -1,0 +1,38 @@
+#pragma once
+
+#include <cstdint>
+#include <string>
+
+class Map_Editor;
+class Tile_Map;
+
+// The map kept beside its tileset as NAME.tmx, in the map format of the Tiled
+// editor that many map editors and game engines read: an orthogonal map of
+// the map's cells, one tile layer in CSV, and one tileset drawn from the
+// tileset's sheet NAME.bmp (16 tiles to a row, 16 rows). Cell values are 0
+// for an empty cell and tile index + 1 otherwise.
+class Map_File {
+public:
+    static constexpr int sheet_columns = 16;
+    static constexpr int sheet_rows = 16;
+
+    // The map file and the sheet beside a tileset's file.
+    static std::string map_path(const std::string& tileset_path);
+    static std::string sheet_path(const std::string& tileset_path);
+
+    // False when the file could not be written; a failed write leaves any
+    // previous file as it was.
+    static bool write(const Tile_Map& map, uint32_t tile_width, uint32_t tile_height, const std::string& path);
+
+    struct Reading {
+        bool found = false;  // there was a file to read
+        bool whole = false;  // everything in it was read as it stood
+        int cells = 0;       // cells placed
+        std::string problems;  // one line per thing left out or changed
+    };
+    // Places the cells of the file in the map (its history untouched) and
+    // reads what is valid of a damaged or foreign file: cells naming tiles the
+    // tileset lacks stay empty, a layer larger than the map is cut.
+    static Reading read(const std::string& path, Map_Editor& into, uint32_t tile_width, uint32_t tile_height,
+                        int tile_count);
+};

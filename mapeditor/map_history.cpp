@@ -1,0 +1,33 @@
+#include "mapeditor/map_history.h"
+
+#include <utility>
+
+void Map_History::record(Map_Edit edit) {
+    if (edit.cells.empty()) return;
+    undone.clear();
+    if (done.size() >= most_edits) done.erase(done.begin());
+    done.push_back(std::move(edit));
+}
+
+bool Map_History::undo(Tile_Map& map) {
+    if (done.empty()) return false;
+    const Map_Edit& edit = done.back();
+    // Backwards, so a cell touched twice ends as it was first.
+    for (auto it = edit.cells.rbegin(); it != edit.cells.rend(); ++it) map.set(it->cell, it->before);
+    undone.push_back(std::move(done.back()));
+    done.pop_back();
+    return true;
+}
+
+bool Map_History::redo(Tile_Map& map) {
+    if (undone.empty()) return false;
+    for (const Map_Edit::Cell& c : undone.back().cells) map.set(c.cell, c.after);
+    done.push_back(std::move(undone.back()));
+    undone.pop_back();
+    return true;
+}
+
+void Map_History::clear() {
+    done.clear();
+    undone.clear();
+}

@@ -1,0 +1,55 @@
+#pragma once
+
+#include <cstddef>
+#include <vector>
+
+#include "mapeditor/tile_map.h"
+
+// One change of the map as the user made it (a stroke, a fill): every cell it
+// touched with what the cell held before and after.
+struct Map_Edit {
+    struct Cell {
+        int cell;
+        int before;
+        int after;
+    };
+    std::vector<Cell> cells;
+};
+
+// The map's own undo and redo, apart from the tileset's history: map edits
+// never mix with pixel edits. The stored indices follow the tile list as the
+// cells do, so an undo after a tile was deleted or moved restores what the
+// cell means now.
+class Map_History {
+public:
+    // The oldest edits are dropped beyond this.
+    static constexpr size_t most_edits = 1000;
+
+    // A new edit drops whatever could be redone.
+    void record(Map_Edit edit);
+    bool undo(Tile_Map& map);
+    bool redo(Tile_Map& map);
+    bool can_undo() const { return done.size() > 0; }
+    bool can_redo() const { return undone.size() > 0; }
+    size_t count() const { return done.size(); }
+    void clear();
+
+    void tile_inserted(int index) { remap([index](int t) { return Tile_Map::inserted(t, index); }); }
+    void tile_removed(int index) { remap([index](int t) { return Tile_Map::removed(t, index); }); }
+    void tiles_swapped(int a, int b) { remap([a, b](int t) { return Tile_Map::swapped(t, a, b); }); }
+
+private:
+    template <typename Change>
+    void remap(Change change) {
+        auto one = [&](int t) { return t == Tile_Map::empty ? t : change(t); };
+        for (auto* list : {&done, &undone})
+            for (Map_Edit& edit : *list)
+                for (Map_Edit::Cell& c : edit.cells) {
+                    c.before = one(c.before);
+                    c.after = one(c.after);
+                }
+    }
+
+    std::vector<Map_Edit> done;
+    std::vector<Map_Edit> undone;
+};

@@ -1,0 +1,108 @@
+// The map kept beside its tileset: written on save, read back on load, and a
+// map file this tileset did not read whole never replaced without asking.
+#include "app/map_files.h"
+
+#include <gtest/gtest.h>
+
+#include <filesystem>
+#include <fstream>
+
+#include "app/editor.h"
+#include "app/globals.h"
+#include "document/tileset.h"
+#include "document/tileset_file.h"
+#include "mapeditor/map_file.h"
+#include "support/editor_fixture.h"
+#include "tests/ui/event_script.h"
+
+class MapFilesTest : public Editor_Fixture {
+protected:
+    Tileset& tileset() { return *g_editor->current(); }
+    // The tileset as a user's save leaves it: the .wst, then its map.
+    void save(Tileset& t) {
+        ASSERT_GE(Tileset_File::write(t.store(), t.path().full), 0);
+        EXPECT_TRUE(save_map(t));
+    }
+    Tileset& load(const std::string& path) {
+        EXPECT_TRUE(g_editor->tilesets().open_file(path));
+        load_map(tileset());
+        return tileset();
+    }
+    static std::string text_of(const std::string& path) {
+        std::ifstream in(path, std::ios::binary);
+        return std::string(std::istreambuf_iterator<char>(in), {});
+    }
+    Temp_Dir dir;
+};
+
+TEST_F(MapFilesTest, TheMapComesBackWithItsTilesetAndABlankMapWritesNothing) {
+    const std::string wst = (dir.path / "forest.wst").string();
+    const std::string tmx = (dir.path / "forest.tmx").string();
+    const std::string bmp = (dir.path / "forest.bmp").string();
+    tileset().set_path(wst);
+    save(tileset());
+    EXPECT_FALSE(std::filesystem::exists(tmx));
+    EXPECT_FALSE(std::filesystem::exists(bmp));
+
+    tileset().store().add_tile();
+    tileset().store().tile_at(1)->fill(Color(10, 200, 30));
+    tileset().map().place(0, 0, 1);
+    tileset().map().place(19, 19, 0);
+    Event_Script script;  // no steps: a message or question would run it out
+    save(tileset());
+    ASSERT_TRUE(std::filesystem::exists(tmx));
+    SDL_Surface* sheet = SDL_LoadBMP(bmp.c_str());
+    ASSERT_NE(sheet, nullptr);
+    EXPECT_EQ(sheet->w, 16 * 24);
+    EXPECT_EQ(sheet->h, 16 * 24);
+    SDL_DestroySurface(sheet);
+
+    // Saved again after a change: its own file is replaced without a question.
+    tileset().map().place(5, 5, 1);
+    save(tileset());
+    EXPECT_FALSE(script.ran_out());
+
+    Tileset& loaded = load(wst);
+    EXPECT_NE(&loaded, nullptr);
+    EXPECT_FALSE(script.ran_out()) << "a whole map loads without a message";
+    EXPECT_EQ(loaded.map().map().at(0, 0), 1);
+    EXPECT_EQ(loaded.map().map().at(19, 19), 0);
+    EXPECT_EQ(loaded.map().map().at(5, 5), 1);
+    EXPECT_EQ(loaded.map().map().at(1, 0), Tile_Map::empty);
+    EXPECT_EQ(loaded.map().own_file, tmx);
+}
+
+TEST_F(MapFilesTest, ADamagedMapIsReportedAndReplacedOnlyWhenTheUserAgrees) {
+    const std::string wst = (dir.path / "cave.wst").string();
+    const std::string tmx = (dir.path / "cave.tmx").string();
+    tileset().set_path(wst);
+    tileset().map().place(2, 3, 0);
+    save(tileset());
+    // Cut short by a crash of some other program.
+    const std::string whole = text_of(tmx);
+    const std::string damaged = whole.substr(0, whole.size() - 40);
+    std::ofstream(tmx, std::ios::binary) << damaged;
+
+    Event_Script script;
+    script.then([] { push_key(SDLK_RETURN); });  // the report
+    Tileset& loaded = load(wst);
+    EXPECT_EQ(script.left(), 0u) << "the report was shown";
+    EXPECT_TRUE(loaded.map().map().is_blank());
+
+    loaded.map().place(1, 1, 0);
+    script.then([] { push_key(SDLK_ESCAPE); });  // keep the file
+    save(loaded);
+    EXPECT_EQ(text_of(tmx), damaged);
+    script.then([] { push_key('y'); });  // replace it
+    save(loaded);
+    EXPECT_FALSE(script.ran_out());
+    EXPECT_NE(text_of(tmx), damaged);
+    Map_Editor back(24, 24);
+    const Map_File::Reading r = Map_File::read(tmx, back, 24, 24, 1);
+    EXPECT_TRUE(r.whole) << r.problems;
+    EXPECT_EQ(back.map().at(1, 1), 0);
+    // From now on it is this map's file.
+    loaded.map().place(4, 4, 0);
+    save(loaded);
+    EXPECT_FALSE(script.ran_out());
+}
