@@ -1,12 +1,19 @@
 #include "mapeditor/map_history.h"
 
+#include <cstddef>
 #include <utility>
 
 void Map_History::record(Map_Edit edit) {
     if (edit.cells.empty()) return;
+    for (const Map_Edit& e : undone) kept_cells -= e.cells.size();
     undone.clear();
-    if (done.size() >= most_edits) done.erase(done.begin());
+    kept_cells += edit.cells.size();
     done.push_back(std::move(edit));
+    // The newest edit always stays, however large.
+    size_t dropped = 0;
+    while (done.size() - dropped > 1 && (done.size() - dropped > most_edits || kept_cells > most_cells))
+        kept_cells -= done[dropped++].cells.size();
+    done.erase(done.begin(), done.begin() + std::ptrdiff_t(dropped));
 }
 
 bool Map_History::undo(Tile_Map& map) {
@@ -30,4 +37,5 @@ bool Map_History::redo(Tile_Map& map) {
 void Map_History::clear() {
     done.clear();
     undone.clear();
+    kept_cells = 0;
 }

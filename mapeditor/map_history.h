@@ -22,14 +22,17 @@ struct Map_Edit {
 // cell means now.
 class Map_History {
 public:
-    // The oldest edits are dropped beyond this.
+    // The oldest edits are dropped beyond either: a fill of a map of tiny
+    // tiles touches a quarter of a million cells.
     static constexpr size_t most_edits = 1000;
+    static constexpr size_t most_cells = size_t(1) << 22;
 
     // A new edit drops whatever could be redone.
     void record(Map_Edit edit);
     bool undo(Tile_Map& map);
     bool redo(Tile_Map& map);
     bool can_undo() const { return done.size() > 0; }
+    size_t cells_kept() const { return kept_cells; }
     bool can_redo() const { return undone.size() > 0; }
     size_t count() const { return done.size(); }
     void clear();
@@ -52,4 +55,5 @@ private:
 
     std::vector<Map_Edit> done;
     std::vector<Map_Edit> undone;
+    size_t kept_cells = 0;  // in done and undone together
 };

@@ -110,6 +110,8 @@ void Map_View::draw() {
     draw_marks(p);
     const Rectangle c = chooser();
     chooser_image->draw_at(c.x, c.y);
+    w.frame(Rectangle{p.x - 1, p.y - 1, p.width + 2, p.height + 2}, pane_frame_color);
+    w.frame(Rectangle{c.x - 1, c.y - 1, c.width + 2, c.height + 2}, pane_frame_color);
     auto cell_of = [&](int index) {
         return Rectangle{c.x + (index % chooser_columns) * chooser_cell, c.y + (index / chooser_columns) * chooser_cell,
                          chooser_cell, chooser_cell};

@@ -156,7 +156,7 @@ TEST_F(ModalLayers, QuitQuestionOpenedOverTheCanvas) {
 
 TEST_F(ModalLayers, CloseQuestion) { through_menu("Close question", command_close); }
 
-TEST_F(ModalLayers, UnhandledCommandNote) { through_menu("Unhandled command note", command_map_editor); }
+TEST_F(ModalLayers, MapEditor) { through_menu("Map editor", command_map_editor); }
 
 TEST_F(ModalLayers, HelpBoxOfAToolButton) {
     const Rectangle first_tool{0, 32, 24, 24};

@@ -59,6 +59,8 @@ std::string editor_fault() {
         const Undo_History& h = t.history();
         if (fault.empty()) fault = in_range((name + "undo records").c_str(), h.count(), 0, h.capacity());
         if (fault.empty()) fault = in_range((name + "undo position").c_str(), h.position(), h.count() ? 0 : -1, h.count() - 1);
+        // The map follows the tile list: it never names a tile the tileset lacks.
+        if (fault.empty()) fault = in_range((name + "highest tile on the map").c_str(), t.map().map().highest_tile(), -1, tiles - 1);
         if (!fault.empty()) return fault;
     }
     if (!listed) return "the current tileset is not among the open ones";

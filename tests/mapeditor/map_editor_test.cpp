@@ -126,3 +126,29 @@ TEST(MapEditor, FillTakesTheJoinedCellsAndUndoesAsOneStep) {
 }
 
 }  // namespace
+
+namespace {
+TEST(MapEditor, HistoryDropsItsOldestStepsToStayBounded) {
+    // One-pixel tiles: 480 x 480 cells, each fill a quarter of a million.
+    Map_Editor tiny(1, 1);
+    for (int i = 0; i < 24; ++i) ASSERT_TRUE(tiny.fill(0, 0, i % 2));
+    const size_t kept = tiny.history().count();
+    EXPECT_GT(kept, 1u);
+    EXPECT_LT(kept, 24u);
+    EXPECT_LE(tiny.history().cells_kept(), Map_History::most_cells);
+    for (size_t i = 0; i < kept; ++i) ASSERT_TRUE(tiny.undo());
+    EXPECT_FALSE(tiny.undo());
+    EXPECT_EQ(tiny.map().at(7, 7), int(24 - kept) % 2 == 0 ? 1 : 0) << "back to the oldest step kept";
+    // Redo is dropped by a new step, and its cells no longer count.
+    ASSERT_TRUE(tiny.fill(0, 0, 5));
+    EXPECT_EQ(tiny.history().cells_kept(), size_t(480 * 480));
+
+    Map_Editor small(24, 24);
+    for (int i = 0; i < 1200; ++i) {
+        small.begin_stroke();
+        small.paint(i % 20, 0, i % 3);
+        small.end_stroke();
+    }
+    EXPECT_EQ(small.history().count(), Map_History::most_edits);
+}
+}  // namespace

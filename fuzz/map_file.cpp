@@ -1,0 +1,30 @@
+// The map file read beside a loaded tileset, fed through a file as loading does.
+#include <cstdlib>
+#include <string>
+
+#include "fuzz/support.h"
+#include "mapeditor/map_editor.h"
+#include "mapeditor/map_file.h"
+
+namespace {
+constexpr int tile_count = 10;
+}  // namespace
+
+extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
+    static const std::string path = (fuzz::private_dir() / "input.tmx").string();
+    fuzz::write_file(path, data, size);
+    Map_Editor map(24, 24);
+    const Map_File::Reading r = Map_File::read(path, map, 24, 24, tile_count);
+    if (!r.found) std::abort();
+    // Whatever the file says, only tiles the tileset has land in the map, one
+    // placed cell for each the reading counted.
+    int placed = 0;
+    for (int c = 0; c < map.map().cell_count(); ++c) {
+        const int tile = map.map().at(c);
+        if (tile >= tile_count || tile < Tile_Map::empty) std::abort();
+        placed += tile != Tile_Map::empty;
+    }
+    if (placed != r.cells) std::abort();
+    if (r.whole != r.problems.empty()) std::abort();
+    return 0;
+}
