@@ -26,7 +26,7 @@ public:
             fault = "the file ends early";
             return false;
         }
-        const std::string token = stream.read_text();
+        const std::string_view token = stream.read_token();
         const char* first = token.data();
         const char* last = first + token.size();
         const auto [end, error] = std::from_chars(first, last, value);
