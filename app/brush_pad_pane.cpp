@@ -161,12 +161,14 @@ void Brush_Pad_Pane::draw(const Tile* fallback) {
         if (temporary)
             caption = "Temporary brush, " + size;
         else if (s.image)
-            caption = "Pad brush " + std::to_string(pad.selected() + 1) + " of " + std::to_string(pad.count()) + ", " + size;
+            caption = "Pad brush " + std::to_string(pad.selected() + 1) + " of " + std::to_string(pad.count()) +
+                      ", " + size;
         else
             caption = "Built-in brush, " + size;
     }
     if (!caption.empty())
-        writer.write_at(sc.x + (sc.width - writer.measure(caption.c_str())) / 2, sc.y + sc.height - writer.line_height(),
+        writer.write_at(sc.x + (sc.width - writer.measure(caption.c_str())) / 2,
+                        sc.y + sc.height - writer.line_height(),
                         caption.c_str());
 
     grid->draw();

@@ -267,7 +267,8 @@ TEST_F(BrushPad, ARefusedFileLeavesThePadEmptyAndIsNeverWrittenOver) {
     EXPECT_TRUE(pad().empty());
     EXPECT_TRUE(pad_pane().file_refused());
     bool warned = false;
-    for (const std::string& line : g_debug_log->lines()) warned |= line.find("brushpad.dat refused") != std::string::npos;
+    for (const std::string& line : g_debug_log->lines())
+        warned |= line.find("brushpad.dat refused") != std::string::npos;
     EXPECT_TRUE(warned);
     // The user goes on working with the pad; the file stays as it was.
     ASSERT_TRUE(g_editor->use_as_brush(*make_brush()));
