@@ -83,7 +83,7 @@ void Application::run() {
     if (!pad_damage.empty()) {
         if (!note.empty()) note += "\r";
         note += std::string("The brush pad file \"") + Brush_Pad_File::default_name + "\" was refused (" + pad_damage +
-                "):\rthe pad starts empty and the file is left as it is.";
+                "):\rthe pad starts empty and the file is kept as it is; brushes added\rin this session are not saved.";
     }
     g_editor->run(note);
 }

@@ -58,6 +58,7 @@ bool Brush_Pad_Pane::take_temporary(const Tile& image, int hot_x, int hot_y) {
 Brush_Pad::Add_Result Brush_Pad_Pane::move_to_pad(const Tile* fallback) {
     Stamp s = current();
     if (!s.image && fallback) s = Stamp{fallback, middle(fallback->width()), middle(fallback->height())};
+    // No brush at all is one of the cases the "Failed to add" message names.
     if (!s.image) return Brush_Pad::Add_Result::full;
     const Brush_Pad::Add_Result result = pad.add(*s.image, s.hot_x, s.hot_y);
     if (result == Brush_Pad::Add_Result::added) {
@@ -97,6 +98,18 @@ void Brush_Pad_Pane::show_selected_page() {
 Rectangle Brush_Pad_Pane::cell_rect(int slot) const {
     const Rectangle& c = grid->client_area();
     return Rectangle{c.x + (slot % columns) * cell, c.y + (slot / columns) * cell, cell, cell};
+}
+
+// Small brushes are magnified up to four times, so that a few pixels of
+// pixel art can be told apart; large ones keep their real size.
+Rectangle Brush_Pad_Pane::thumbnail(int slot) const {
+    const Rectangle r = cell_rect(slot);
+    const Tile& image = *pad.brush(first + slot).image;
+    const int room = cell - 4;
+    const int scale = std::max(1, std::min({room / image.width(), room / image.height(), 4}));
+    const int w = image.width() * scale;
+    const int h = image.height() * scale;
+    return Rectangle{r.x + (cell - w) / 2, r.y + (cell - h) / 2, w, h};
 }
 
 Rectangle Brush_Pad_Pane::previous_button() const {
@@ -141,17 +154,21 @@ void Brush_Pad_Pane::draw(const Tile* fallback) {
     if (shown) {
         const Rectangle view = view_for(*shown);
         draw_checker(view);
-        if (Tile_Texture* t = const_cast<Tile*>(shown)->texture()) t->draw_scaled(view.x, view.y, view.width, view.height);
+        // Drawing leaves the pixels alone; only the texture is non-const.
+        if (Tile_Texture* t = const_cast<Tile*>(shown)->texture())
+            t->draw_scaled(view.x, view.y, view.width, view.height);
         const std::string size = std::to_string(shown->width()) + " x " + std::to_string(shown->height());
         if (temporary)
             caption = "Temporary brush, " + size;
         else if (s.image)
-            caption = "Pad brush " + std::to_string(pad.selected() + 1) + " of " + std::to_string(pad.count()) + ", " + size;
+            caption = "Pad brush " + std::to_string(pad.selected() + 1) + " of " + std::to_string(pad.count()) +
+                      ", " + size;
         else
             caption = "Built-in brush, " + size;
     }
     if (!caption.empty())
-        writer.write_at(sc.x + (sc.width - writer.measure(caption.c_str())) / 2, sc.y + sc.height - writer.line_height(),
+        writer.write_at(sc.x + (sc.width - writer.measure(caption.c_str())) / 2,
+                        sc.y + sc.height - writer.line_height(),
                         caption.c_str());
 
     grid->draw();
@@ -164,10 +181,9 @@ void Brush_Pad_Pane::draw(const Tile* fallback) {
         const Pad_Brush& b = pad.brush(first + slot);
         const Rectangle r = cell_rect(slot);
         w.fill_rect(r, cell_color);
-        const Rectangle image{r.x + (cell - b.image->width()) / 2, r.y + (cell - b.image->height()) / 2,
-                              b.image->width(), b.image->height()};
+        const Rectangle image = thumbnail(slot);
         draw_checker(image);
-        b.image->draw(image.x, image.y);
+        if (Tile_Texture* t = b.image->texture()) t->draw_scaled(image.x, image.y, image.width, image.height);
         if (first + slot == pad.selected() && !temporary) {
             w.frame(r, highlight);
             w.frame(Rectangle{r.x + 1, r.y + 1, r.width - 2, r.height - 2}, highlight);
@@ -183,8 +199,7 @@ void Brush_Pad_Pane::draw(const Tile* fallback) {
                    previous.y + (previous.height - label.line_height()) / 2, "<");
     label.write_at(next.x + (next.width - label.measure(">")) / 2, next.y + (next.height - label.line_height()) / 2,
                    ">");
-    const std::string where = "Page " + std::to_string(page() + 1) + " of " + std::to_string(page_count()) + ", " +
-                              std::to_string(pad.count()) + " of " + std::to_string(Brush_Pad::capacity);
+    const std::string where = "Page " + std::to_string(page() + 1) + " of " + std::to_string(page_count());
     writer.write_at(gc.x + (gc.width - writer.measure(where.c_str())) / 2,
                     previous.y + (previous.height - writer.line_height()) / 2, where.c_str());
 }

@@ -11,7 +11,7 @@ class Texture;
 
 // The brush pad beside the tool options: the "Selected" pane shows the brush
 // the stamp draws with, enlarged; the "Brush pad" pane shows the pad's
-// brushes at their real size, fifteen to a page, and a click selects one.
+// brushes, small ones magnified, fifteen to a page; a click selects one.
 // It also keeps the temporary brush that "Use as brush" makes.
 class Brush_Pad_Pane {
 public:
@@ -69,6 +69,8 @@ public:
     int page() const { return first / per_page; }
     int page_count() const;
     Rectangle cell_rect(int slot) const;
+    // Where the brush in a cell of the page is drawn.
+    Rectangle thumbnail(int slot) const;
     Rectangle previous_button() const;
     Rectangle next_button() const;
     const Pane& selected_pane() const { return *selected; }

@@ -37,12 +37,14 @@ int32_t Token_Stream::read_number() {
     return static_cast<int32_t>(value);
 }
 
-std::string Token_Stream::read_text() {
+std::string Token_Stream::read_text() { return std::string(read_token()); }
+
+std::string_view Token_Stream::read_token() {
     const size_t start = read_position;
     while (read_position < buffer.size() && !is_separator(buffer[read_position])) ++read_position;
-    std::string text = buffer.substr(start, read_position - start);
+    const std::string_view token(buffer.data() + start, read_position - start);
     if (read_position < buffer.size()) ++read_position;
-    return text;
+    return token;
 }
 
 bool Token_Stream::write_to(Data_File& file) {

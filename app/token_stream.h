@@ -27,6 +27,9 @@ public:
     int32_t read_number();
     // Characters until "," or ":" (consumed), no length limit.
     std::string read_text();
+    // The same token as read_text, as a view into the stream's text: valid
+    // until the stream changes, and nothing is copied.
+    std::string_view read_token();
 
     // Appends ":" and writes the length and the text; returns false if the
     // block could not be written.

@@ -26,7 +26,7 @@ public:
             fault = "the file ends early";
             return false;
         }
-        const std::string token = stream.read_text();
+        const std::string_view token = stream.read_token();
         const char* first = token.data();
         const char* last = first + token.size();
         const auto [end, error] = std::from_chars(first, last, value);
@@ -128,7 +128,8 @@ bool Brush_Pad_File::save(Brush_Pad& pad, const std::string& path) {
         // A new file is readable by all, as the program's other data files are.
         fs::perms permissions = fs::status(target, error).permissions();
         if (error || permissions == fs::perms::unknown)
-            permissions = fs::perms::owner_read | fs::perms::owner_write | fs::perms::group_read | fs::perms::others_read;
+            permissions = fs::perms::owner_read | fs::perms::owner_write | fs::perms::group_read |
+                          fs::perms::others_read;
         error.clear();
         fs::permissions(temporary, permissions, error);
         error.clear();

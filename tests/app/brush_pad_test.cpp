@@ -189,13 +189,19 @@ TEST_F(BrushPad, ThePanePagesShowsAndSelectsBrushesByClicks) {
     click(pad_pane().previous_button());
     EXPECT_EQ(pad_pane().page(), 0);
     g_editor->repaint(false);
-    // Each brush at its real size, centred in its cell.
-    EXPECT_EQ(read_pixel(first_cell.x + 32, first_cell.y + 32), colour_of(0));
-    EXPECT_NE(read_pixel(first_cell.x + 32 - 5, first_cell.y + 32), colour_of(0));
+    // Each brush centred in its cell, magnified up to four times: brush 0
+    // (8 x 4) covers 32 x 16 pixels, brush 2 (14 x 6) 56 x 24, brush 10
+    // (38 x 14) keeps its size.
+    EXPECT_EQ(read_pixel(first_cell.x + 16, first_cell.y + 24), colour_of(0));
+    EXPECT_EQ(read_pixel(first_cell.x + 47, first_cell.y + 39), colour_of(0));
+    EXPECT_NE(read_pixel(first_cell.x + 15, first_cell.y + 24), colour_of(0));
+    EXPECT_NE(read_pixel(first_cell.x + 48, first_cell.y + 39), colour_of(0));
     const Rectangle third = pad_pane().cell_rect(2);
-    // Brush 2 is 14 x 6: its corner lies at (25, 29) in the cell.
-    EXPECT_EQ(read_pixel(third.x + 25, third.y + 29), colour_of(2));
-    EXPECT_NE(read_pixel(third.x + 24, third.y + 29), colour_of(2));
+    EXPECT_EQ(read_pixel(third.x + 4, third.y + 20), colour_of(2));
+    EXPECT_NE(read_pixel(third.x + 3, third.y + 20), colour_of(2));
+    const Rectangle eleventh = pad_pane().cell_rect(10);
+    EXPECT_EQ(read_pixel(eleventh.x + 13, eleventh.y + 25), colour_of(10));
+    EXPECT_NE(read_pixel(eleventh.x + 12, eleventh.y + 25), colour_of(10));
 
     // A click selects the brush and chooses the stamp brush, which draws with it.
     click(third);
@@ -261,7 +267,8 @@ TEST_F(BrushPad, ARefusedFileLeavesThePadEmptyAndIsNeverWrittenOver) {
     EXPECT_TRUE(pad().empty());
     EXPECT_TRUE(pad_pane().file_refused());
     bool warned = false;
-    for (const std::string& line : g_debug_log->lines()) warned |= line.find("brushpad.dat refused") != std::string::npos;
+    for (const std::string& line : g_debug_log->lines())
+        warned |= line.find("brushpad.dat refused") != std::string::npos;
     EXPECT_TRUE(warned);
     // The user goes on working with the pad; the file stays as it was.
     ASSERT_TRUE(g_editor->use_as_brush(*make_brush()));

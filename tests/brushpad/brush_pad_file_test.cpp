@@ -27,7 +27,8 @@ std::unique_ptr<Tile> odd_brush() {
 void expect_same_pixels(const Tile& a, const Tile& b) {
     ASSERT_TRUE(a.same_size(b));
     for (int y = 0; y < a.height(); ++y)
-        for (int x = 0; x < a.width(); ++x) EXPECT_EQ(a.get_pixel(x, y).word(), b.get_pixel(x, y).word()) << x << "," << y;
+        for (int x = 0; x < a.width(); ++x)
+            EXPECT_EQ(a.get_pixel(x, y).word(), b.get_pixel(x, y).word()) << x << "," << y;
 }
 
 // The stream text of a file, written as the program writes it: the
