@@ -17,6 +17,7 @@
 #include "app/undo_control.h"
 #include "color/color_editor.h"
 #include "document/transforms.h"
+#include "selection/editor/selection_tools.h"
 #include "ui/message_box.h"
 #include "ui/options.h"
 #include "ui/ui_globals.h"
@@ -24,10 +25,16 @@
 
 int Editor::execute(int command) {
     if (command < 0 || command >= command_count) return -1;
-    if (commands::seam_off(command)) canvas_view->end_seams();
+    if (commands::seam_off(command)) {
+        // The tile may be about to go: a floating image is put down first.
+        selection_tools->tile_changing();
+        canvas_view->end_seams();
+    }
     int result = command;
     if (commands::is_tool(command)) {
         select_tool(command);
+    } else if (Selection_Tools::handles(command)) {
+        result = selection_tools->execute(command);
     } else {
         switch (command) {
             case command_horizontal_seam_tool:
