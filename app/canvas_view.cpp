@@ -9,6 +9,7 @@
 #include "app/main_window.h"
 #include "app/ui_colors.h"
 #include "document/transforms.h"
+#include "selection/floating.h"
 #include "ui/wait_for_key.h"
 
 namespace {
@@ -89,14 +90,14 @@ void Canvas_View::resize_masks() {
     shown->copy_into(*history);
     selection_on = false;
     second_on = false;
-    pending = false;
+    // A floating image carried to a tile of another size keeps floating.
+    if (pending) move_float(float_x, float_y);
 }
 
+// Clears the mask only: the floating image keeps its outline.
 void Canvas_View::reset_selection() {
     if (mask) mask->fill(Color(0, 0, 0));
-    if (second_mask) second_mask->fill(Color(0, 0, 0));
     selection_on = false;
-    second_on = false;
 }
 
 void Canvas_View::save_copy() {
@@ -125,27 +126,54 @@ void Canvas_View::end_seams() {
 
 void Canvas_View::commit_float() {
     if (!pending || !floating || !shown) return;
-    for (int y = 0; y < floating->height(); ++y)
-        for (int x = 0; x < floating->width(); ++x) {
-            const Color c = floating->get_pixel(x, y);
-            if (c.alpha != 0) shown->set_pixel(float_x + x, float_y + y, c);
-        }
+    floating::stamp_wrapped(*shown, *floating, float_x, float_y);
     shown->update_texture();
     pending = false;
+    outline_float();
 }
 
 void Canvas_View::paste(const Tile& image, int x, int y) {
     commit_float();
     floating = std::make_unique<Tile>(image.width(), image.height());
     image.copy_into(*floating);
-    float_x = x;
-    float_y = y;
     pending = true;
+    move_float(x, y);
 }
 
-void Canvas_View::replace_float(const Tile& image, int x, int y) {
+void Canvas_View::replace_float(const Tile* image, int x, int y) {
     pending = false;
-    paste(image, x, y);
+    if (image)
+        paste(*image, x, y);
+    else
+        outline_float();
+}
+
+void Canvas_View::move_float(int x, int y) {
+    float_x = shown ? floating::wrap(x, shown->width()) : x;
+    float_y = shown ? floating::wrap(y, shown->height()) : y;
+    outline_float();
+}
+
+bool Canvas_View::on_float(int x, int y) const {
+    if (!pending || !floating || !shown || shown->is_outside(x, y)) return false;
+    // The image may be larger than the tile: any of its pixels over the cell counts.
+    for (int iy = floating::wrap(y - float_y, shown->height()); iy < floating->height(); iy += shown->height())
+        for (int ix = floating::wrap(x - float_x, shown->width()); ix < floating->width(); ix += shown->width())
+            if (floating->alpha(ix, iy) != 0) return true;
+    return false;
+}
+
+// The floating image's opaque pixels, as the tile shows them, are outlined
+// with the second overlay's edges, so the user sees what will move.
+void Canvas_View::outline_float() {
+    if (!second_mask) return;
+    second_mask->fill(Color(0, 0, 0));
+    second_on = pending && floating && shown;
+    if (!second_on) return;
+    Tile stencil(floating->width(), floating->height());
+    for (int i = 0; i < stencil.pixel_count(); ++i)
+        stencil.pixels()[i] = floating->pixels()[i].alpha != 0 ? Color(255, 255, 255) : Color(0, 0, 0, 0);
+    floating::stamp_wrapped(*second_mask, stencil, float_x, float_y);
 }
 
 Cell Canvas_View::cell_at(float x, float y) const {
@@ -183,8 +211,14 @@ void Canvas_View::compose_cells() {
             else
                 darken(grid, grid_contrast);
             if (!selection_on) {
-                if (pending && float_visible && floating) {
-                    const Color f = floating->get_pixel(tx - float_x, ty - float_y);
+                if (pending && floating) {
+                    // The last of the image's pixels over this cell shows, as it would be stamped.
+                    Color f(0, 0, 0, 0);
+                    for (int iy = floating::wrap(ty - float_y, h); iy < floating->height(); iy += h)
+                        for (int ix = floating::wrap(tx - float_x, w); ix < floating->width(); ix += w) {
+                            const Color c = floating->get_pixel(ix, iy);
+                            if (c.alpha != 0) f = c;
+                        }
                     if (f.alpha != 0) {
                         inside = over(inside, f);
                         grid = over(grid, f);

@@ -60,16 +60,21 @@ public:
     void set_drawing_selection(bool on) { second_on = on; }
     void reset_selection();
 
-    // A pasted or moved image that is not yet part of the tile.
+    // A pasted or moved image that is not yet part of the tile. It wraps:
+    // what passes one edge of the tile shows (and is stamped) at the other.
     bool float_pending() const { return pending; }
     void commit_float();
     void paste(const Tile& image, int x = 0, int y = 0);
     // The pending floating image, or none, and its place on the tile.
     const Tile* floating_image() const { return pending ? floating.get() : nullptr; }
     SDL_Point floating_position() const { return SDL_Point{float_x, float_y}; }
-    // Undo puts an earlier floating image back without stamping the present one.
-    void replace_float(const Tile& image, int x, int y);
-    void set_float_visible(bool on) { float_visible = on; }
+    // Undo puts an earlier floating image back (or none) without stamping the
+    // present one.
+    void replace_float(const Tile* image, int x, int y);
+    // The floating image's corner moves to (x, y), brought onto the tile.
+    void move_float(int x, int y);
+    // Whether the tile cell lies on an opaque pixel of the floating image.
+    bool on_float(int x, int y) const;
 
     bool contains(float x, float y) const { return view.contains(x, y); }
     Cell cell_at(float x, float y) const;
@@ -94,6 +99,7 @@ private:
     void draw_cell_marks(Main_Window& window, int tx, int ty, int px, int py);
     void draw_edges(Main_Window& window, const Tile& m, int tx, int ty, int px, int py, bool active);
     void keep_pointer_on_tile(float x, float y);
+    void outline_float();
     void resize_masks();
     void update_extent();
 
@@ -110,7 +116,6 @@ private:
     int float_x = 0;
     int float_y = 0;
     bool pending = false;
-    bool float_visible = false;
     bool selection_on = false;
     bool second_on = false;
     int grid_contrast = 64;

@@ -19,6 +19,7 @@
 #include "app/ui_colors.h"
 #include "app/undo_control.h"
 #include "color/color_editor.h"
+#include "selection/editor/selection_tools.h"
 #include "ui/backdrop.h"
 #include "ui/menu_bar.h"
 #include "ui/message_box.h"
@@ -102,6 +103,7 @@ Editor::Editor()
     // Every tileset made from here on gets its navigation pane.
     set_tileset_navigation_maker(make_tile_navigation_pane);
     drawing_tools = std::make_unique<Drawing_Tools>(*this);
+    selection_tools = std::make_unique<Selection_Tools>(*this);
     link_tool_options(drawing_tools->context());
     color_editor = std::make_unique<Color_Editor>();
     undo_control = std::make_unique<Undo_Control>(*this);
@@ -249,9 +251,17 @@ void Editor::relayout() {
     canvas_view->centre();
 }
 
+// Another tile: a floating image is put down on the one it floated over
+// first, and with "Clear selection when another tile selected" on the
+// selection goes.
 void Editor::show_current_tile() {
     Tileset* t = open.current();
-    canvas_view->set_tile(t ? t->store().current_tile() : nullptr);
+    Tile* next = t ? t->store().current_tile() : nullptr;
+    if (next != canvas_view->tile()) {
+        selection_tools->tile_changing();
+        if (g_options && g_options->is_on(Options::clear_selection)) canvas_view->reset_selection();
+    }
+    canvas_view->set_tile(next);
 }
 
 void Editor::run_command(int command) {
@@ -299,7 +309,9 @@ void Editor::press() {
         if (stroke && canvas_view->tile()) {
             stroke_change->take(*canvas_view);
             canvas_view->press(*stroke, int(button), pointer_x, pointer_y);
-            if (action != 20 && stroke_change->changed(*canvas_view)) undo_control->record(tool);
+            // "Work selection" is a step only when the press moved something.
+            const bool step = action == 20 ? stroke->completed() : stroke_change->changed(*canvas_view);
+            if (step) undo_control->record(tool);
             return;
         }
     }
@@ -340,8 +352,8 @@ void Editor::press() {
 
 void Editor::select_tool(int command) {
     if (command == tool) return;
-    if (command == command_work_selection) canvas_view->reset_selection();
-    if (tool == command_work_selection) canvas_view->commit_float();
+    // Choosing "Work selection" keeps the selection: it is what the tool moves.
+    if (tool == command_work_selection) selection_tools->leaving_work_selection();
     tool_bar->press_tool(command);
     tool = command;
     // The pane keeps the current and the previous tool for everyone else.

@@ -14,6 +14,7 @@ class Canvas_View;
 class Color_Editor;
 class Drawing_Tools;
 class Menu_Bar;
+class Selection_Tools;
 class Stroke_Action;
 class Stroke_Change;
 class Tile;
@@ -68,6 +69,7 @@ public:
     Tileset_Tabs& tabs() { return *tileset_tabs; }
     Color_Editor& colors() { return *color_editor; }
     Drawing_Tools& drawing() { return *drawing_tools; }
+    Selection_Tools& selection() { return *selection_tools; }
     Undo_Control& undo() { return *undo_control; }
     const Position_Readout& position() const { return readout; }
     SDL_FPoint pointer() const { return SDL_FPoint{pointer_x, pointer_y}; }
@@ -116,6 +118,7 @@ private:
     Position_Readout readout;
     Stroke_Action* actions[21] = {};
     std::unique_ptr<Drawing_Tools> drawing_tools;
+    std::unique_ptr<Selection_Tools> selection_tools;
     std::unique_ptr<Undo_Control> undo_control;
     std::unique_ptr<Color_Editor> color_editor;
 };

@@ -18,6 +18,7 @@
 #include "app/undo_control.h"
 #include "color/color_editor.h"
 #include "document/transforms.h"
+#include "selection/editor/selection_tools.h"
 #include "ui/message_box.h"
 #include "ui/options.h"
 #include "ui/ui_globals.h"
@@ -25,10 +26,16 @@
 
 int Editor::execute(int command) {
     if (command < 0 || command >= command_count) return -1;
-    if (commands::seam_off(command)) canvas_view->end_seams();
+    if (commands::seam_off(command)) {
+        // The tile may be about to go: a floating image is put down first.
+        selection_tools->tile_changing();
+        canvas_view->end_seams();
+    }
     int result = command;
     if (commands::is_tool(command)) {
         select_tool(command);
+    } else if (Selection_Tools::handles(command)) {
+        result = selection_tools->execute(command);
     } else {
         switch (command) {
             case command_horizontal_seam_tool:
@@ -114,6 +121,13 @@ int Editor::execute(int command) {
             case command_filled_circle:
                 g_tool_options->set_ellipse_type(1);
                 select_tool(command_circle);
+                break;
+            case command_use_as_brush:
+                // The selection (or the floating image) becomes the stamp brush's temporary brush.
+                if (const std::unique_ptr<Tile> image = selection_tools->selection_image(); !image || !use_as_brush(*image)) {
+                    refuse("Nothing selected to use as brush.");
+                    return -1;
+                }
                 break;
             case command_move_to_pad:
                 if (move_to_pad() == command_refused) return -1;

@@ -29,6 +29,8 @@ public:
         (void)button;
     }
     virtual void apply(Canvas_View& view, Cell from, Cell to, int button) = 0;
+    // For actions that decide themselves whether the press was a step.
+    virtual bool completed() const { return false; }
     virtual void finish(Canvas_View& view, Cell start, Cell end, int button, bool dragged) {
         (void)view;
         (void)start;

@@ -24,8 +24,13 @@ void Stroke_Change::take(Canvas_View& view) {
     copy_of(view.tile(), pixels);
     copy_of(view.selection(), mask);
     selection = view.has_selection();
+    floating = view.floating_image();
+    floating_x = view.floating_position().x;
+    floating_y = view.floating_position().y;
 }
 
 bool Stroke_Change::changed(Canvas_View& view) const {
-    return !same(view.tile(), pixels) || !same(view.selection(), mask) || selection != view.has_selection();
+    return !same(view.tile(), pixels) || !same(view.selection(), mask) || selection != view.has_selection() ||
+           floating != view.floating_image() || floating_x != view.floating_position().x ||
+           floating_y != view.floating_position().y;
 }

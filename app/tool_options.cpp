@@ -7,6 +7,7 @@
 #include "app/editor.h"
 #include "app/globals.h"
 #include "app/main_window.h"
+#include "selection/editor/buffer_pane.h"
 #include "ui/info_panes.h"
 #include "ui/options.h"
 #include "ui/setting_panes.h"
@@ -28,6 +29,9 @@ int swatch_stack_height() {
     return 2 * (Tool_Color::body_height + Pane::header_height) + Color_Handles::body_height + Pane::header_height +
            2 * Color_Tools::gap;
 }
+
+// The selection page shows the copy buffer below its rows.
+bool is_selection_page(int page) { return page == commands::tool_options_index(command_work_selection); }
 
 bool is_dialog_row(int id) {
     return id != row_color_readout && id != row_location && id != row_size && id != row_radius && id != row_length &&
@@ -80,6 +84,7 @@ Tool_Options_Pane::Tool_Options_Pane(int x, int y) : Pane(Rectangle{x, y, width,
         if (is_dialog_row(id))
             for (const auto& r : static_cast<Dialog_Pane&>(*rows[size_t(id)]).container().rows())
                 r->set_writer(&g_main_window->writer(font_pane));
+    buffer = std::make_unique<Buffer_Pane>();
     pad = std::make_unique<Brush_Pad_Pane>(x + pad_offset, client.y);
     const Rectangle mixers = colors->mixer_stack();
     adjust_area = Rectangle{mixers.x, mixers.y + mixers.height + Color_Tools::gap, 110, 27};
@@ -129,6 +134,7 @@ void Tool_Options_Pane::layout_page() {
     if (p.brush) y = brush_selector->place(client.x, y);
     if (p.location) place(row_location);
     for (int i = 0; i < p.row_count; ++i) place(p.rows[i]);
+    if (is_selection_page(current_page)) buffer->place(client.x, y);
 }
 
 void Tool_Options_Pane::draw() {
@@ -153,6 +159,8 @@ void Tool_Options_Pane::draw() {
     w.next_group();
     if (p.location) rows[row_location]->draw();
     for (int i = 0; i < p.row_count; ++i) rows[size_t(p.rows[i])]->draw();
+    w.next_group();
+    if (is_selection_page(current_page)) buffer->draw();
     w.next_group();
     pad->draw(&brush());
     w.bevel_fill(adjust_area, button_face_color);
@@ -191,6 +199,8 @@ bool Tool_Options_Pane::click(int button, int x, int y) {
             g_editor->select_tool(command_stamp_brush);
         return true;
     }
+    // What no row takes on the selection page goes to the copy buffer.
+    if (is_selection_page(current_page)) return buffer->click(x, y);
     return false;
 }
 

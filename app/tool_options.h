@@ -10,6 +10,7 @@
 #include "document/tool_pages.h"
 #include "ui/pane.h"
 
+class Buffer_Pane;
 class Canvas_View;
 class Color_Readout;
 class Location_Info;
@@ -102,6 +103,8 @@ public:
     void set_color_readout(Color c);
 
     Pane& row(int id) { return *rows[size_t(id)]; }
+    // The copy buffer's pane, shown on the selection page.
+    Buffer_Pane& buffer_pane() { return *buffer; }
     const Rectangle& adjust_button() const { return adjust_area; }
 
 private:
@@ -119,6 +122,7 @@ private:
     std::unique_ptr<Brush_Selector> brush_selector;
     std::array<std::unique_ptr<Pane>, tool_pages::row_count> rows;
     std::unique_ptr<Brush_Pad_Pane> pad;
+    std::unique_ptr<Buffer_Pane> buffer;
     Rectangle adjust_area{};
     struct Slot {
         int shape = 0;

@@ -39,6 +39,8 @@ void link_tool_options(Stroke_Context& context) {
             case Readout::radius: t.set_radius(a, b); break;
             case Readout::location: t.set_location(a, b); break;
             case Readout::color: t.set_color_readout(Color::from_word(uint32_t(a) | uint32_t(b) << 24)); break;
+            case Readout::degrees: t.set_degrees(a); break;
+            case Readout::offset: t.set_offset(a, b); break;
         }
     };
 }

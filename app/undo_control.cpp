@@ -3,7 +3,9 @@
 #include "app/canvas_view.h"
 #include "app/commands.h"
 #include "app/editor.h"
+#include "app/tool_options.h"
 #include "document/tileset.h"
+#include "selection/editor/selection_tools.h"
 #include "viewers/undo_history_viewer.h"
 #include "viewers/undo_meter.h"
 
@@ -28,8 +30,17 @@ bool Undo_Control::record_if_inverse(int command) {
     return image;
 }
 
+namespace {
+struct Replay {
+    explicit Replay(int& depth) : depth(depth) { ++depth; }
+    ~Replay() { --depth; }
+    int& depth;
+};
+}  // namespace
+
 bool Undo_Control::undo() {
     Tileset* t = editor.current();
+    const Replay replay(replay_depth);
     if (!t || !t->history().undo(t->store(), *this)) return false;
     t->set_modified();
     return true;
@@ -37,6 +48,7 @@ bool Undo_Control::undo() {
 
 bool Undo_Control::redo() {
     Tileset* t = editor.current();
+    const Replay replay(replay_depth);
     if (!t || !t->history().redo(t->store(), *this)) return false;
     t->set_modified();
     return true;
@@ -104,6 +116,11 @@ void Undo_Control::restore_selection(const Tile* mask) {
     view.set_has_selection(any);
 }
 
-void Undo_Control::restore_floating_area(const Tile& area, int x, int y) {
+// A floating image that comes back is ready to be moved again: "Work
+// selection" is chosen, except in the mode that keeps images floating
+// under every tool.
+void Undo_Control::restore_floating_area(const Tile* area, int x, int y) {
     editor.canvas().replace_float(area, x, y);
+    const bool persistent = g_tool_options && g_tool_options->selection_mode() == Selection_Tools::persistent;
+    if (area && !persistent) editor.select_tool(command_work_selection);
 }

@@ -28,6 +28,9 @@ public:
     bool redo();
     void view();
     void draw_meter();
+    // True while undo or redo runs a record's commands and applies it: the
+    // record sets the tile, the selection and the floating image itself.
+    bool replaying() const { return replay_depth > 0; }
     Undo_Meter& meter() { return *undo_meter; }
 
     const Tile* selection_mask() const override;
@@ -38,9 +41,10 @@ public:
     void run_command(int command) override;
     void tile_changed() override;
     void restore_selection(const Tile* mask) override;
-    void restore_floating_area(const Tile& area, int x, int y) override;
+    void restore_floating_area(const Tile* area, int x, int y) override;
 
 private:
     Editor& editor;
+    int replay_depth = 0;
     std::unique_ptr<Undo_Meter> undo_meter;
 };

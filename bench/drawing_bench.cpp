@@ -72,7 +72,7 @@ struct Quiet_Target : Undo_Target {
     void run_command(int) override {}
     void tile_changed() override {}
     void restore_selection(const Tile*) override {}
-    void restore_floating_area(const Tile&, int, int) override {}
+    void restore_floating_area(const Tile*, int, int) override {}
 };
 
 void BM_undo_redo_64(benchmark::State& state) {

@@ -19,16 +19,19 @@ bool Undo_History::record(int command, Tile_Store& store, const Undo_Target* tar
         push(std::make_unique<ImageUndoNode>(inverse, index, *tile, nullptr));
         return group == group_image;
     }
+    const Tile* area = target ? target->floating_area() : nullptr;
+    const int area_x = area ? target->floating_x() : 0;
+    const int area_y = area ? target->floating_y() : 0;
     if (command == command_work_selection) {
-        const Tile* area = target ? target->floating_area() : nullptr;
         if (!area) return false;
-        push(std::make_unique<PasteUndoNode>(index, *area, target->floating_x(), target->floating_y()));
+        const Tile* mask = target->has_selection() ? target->selection_mask() : nullptr;
+        push(std::make_unique<PasteUndoNode>(index, *tile, mask, *area, area_x, area_y));
         return true;
     }
     if (group != group_image && group != group_selection) return false;
     const bool with_mask = target && (group == group_selection || target->has_selection());
     const Tile* mask = with_mask ? target->selection_mask() : nullptr;
-    push(std::make_unique<ImageUndoNode>(command, index, *tile, mask));
+    push(std::make_unique<ImageUndoNode>(command, index, *tile, mask, area, area_x, area_y));
     return group == group_image;
 }
 

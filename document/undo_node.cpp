@@ -23,8 +23,14 @@ void Undo_Node::go_to_tile(Tile_Store& store) const {
     if (store.current_index() != index) store.go_to(index);
 }
 
-ImageUndoNode::ImageUndoNode(int32_t command, int32_t tile_index, const Tile& tile, const Tile* mask)
-    : Undo_Node(command, tile_index), image(copy_of(tile)), selection(mask ? copy_of(*mask) : nullptr) {}
+ImageUndoNode::ImageUndoNode(int32_t command, int32_t tile_index, const Tile& tile, const Tile* mask,
+                             const Tile* floating_image, int floating_x, int floating_y)
+    : Undo_Node(command, tile_index),
+      image(copy_of(tile)),
+      selection(mask ? copy_of(*mask) : nullptr),
+      floating(floating_image ? copy_of(*floating_image) : nullptr),
+      area_x(floating_x),
+      area_y(floating_y) {}
 
 ImageUndoNode::~ImageUndoNode() = default;
 
@@ -35,6 +41,7 @@ void ImageUndoNode::apply(Tile_Store& store, Undo_Target& target) const {
     if (current) image->copy_into(*current);
     target.tile_changed();
     target.restore_selection(selection.get());
+    target.restore_floating_area(floating.get(), area_x, area_y);
 }
 
 void ImageUndoNode::draw(int at_x, int at_y) const {
@@ -53,15 +60,9 @@ void ImageUndoNode::draw(int at_x, int at_y) const {
     shown.draw(at_x, at_y);
 }
 
-PasteUndoNode::PasteUndoNode(int32_t tile_index, const Tile& area, int x, int y)
-    : Undo_Node(-1, tile_index), floating(copy_of(area)), area_x(x), area_y(y) {}
+PasteUndoNode::PasteUndoNode(int32_t tile_index, const Tile& tile, const Tile* mask, const Tile& area, int x, int y)
+    : ImageUndoNode(-1, tile_index, tile, mask, &area, x, y) {}
 
 PasteUndoNode::~PasteUndoNode() = default;
 
-void PasteUndoNode::apply(Tile_Store& store, Undo_Target& target) const {
-    go_to_tile(store);
-    target.tile_changed();
-    target.restore_floating_area(*floating, area_x, area_y);
-}
-
-void PasteUndoNode::draw(int at_x, int at_y) const { floating->draw(at_x, at_y); }
+void PasteUndoNode::draw(int at_x, int at_y) const { floating_tile()->draw(at_x, at_y); }

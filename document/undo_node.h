@@ -35,11 +35,14 @@ protected:
     int32_t index;
 };
 
-// A copy of one tile as it was after a change, and of the selection mask
-// when there was one.
+// A copy of one tile as it was after a change, of the selection mask when
+// there was one, and of the floating image when one was pending: applying it
+// brings all three back, so a floating image never outlives the state it
+// belonged to.
 class ImageUndoNode : public Undo_Node {
 public:
-    ImageUndoNode(int32_t command, int32_t tile_index, const Tile& tile, const Tile* mask);
+    ImageUndoNode(int32_t command, int32_t tile_index, const Tile& tile, const Tile* mask,
+                  const Tile* floating = nullptr, int floating_x = 0, int floating_y = 0);
     ~ImageUndoNode() override;
 
     void apply(Tile_Store& store, Undo_Target& target) const override;
@@ -48,28 +51,32 @@ public:
 
     const Tile& tile() const { return *image; }
     const Tile* mask() const { return selection.get(); }
+    const Tile* floating_area() const { return floating.get(); }
 
     int32_t x = 0;
     int32_t y = 0;
 
+protected:
+    Tile* floating_tile() const { return floating.get(); }
+
 private:
     std::unique_ptr<Tile> image;
     std::unique_ptr<Tile> selection;
-};
-
-// A copy of the floating pasted area, handed back to the editor on apply.
-class PasteUndoNode : public Undo_Node {
-public:
-    PasteUndoNode(int32_t tile_index, const Tile& area, int x, int y);
-    ~PasteUndoNode() override;
-
-    void apply(Tile_Store& store, Undo_Target& target) const override;
-    void draw(int x, int y) const override;
-
-    const Tile& area() const { return *floating; }
-
-private:
     std::unique_ptr<Tile> floating;
     int area_x;
     int area_y;
+};
+
+// A move of the floating pasted area: the area and where it stood, with the
+// tile beneath it (a lift leaves a hole there that undo must fill again).
+// It names no command: undo and redo run nothing for it.
+class PasteUndoNode : public ImageUndoNode {
+public:
+    PasteUndoNode(int32_t tile_index, const Tile& tile, const Tile* mask, const Tile& area, int x, int y);
+    ~PasteUndoNode() override;
+
+    // The floating area alone.
+    void draw(int x, int y) const override;
+
+    const Tile& area() const { return *floating_area(); }
 };

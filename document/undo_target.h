@@ -23,5 +23,6 @@ public:
     virtual void tile_changed() = 0;
     // The record's mask, or none: deselect.
     virtual void restore_selection(const Tile* mask) = 0;
-    virtual void restore_floating_area(const Tile& area, int x, int y) = 0;
+    // The record's floating area at its place, or none: nothing floats.
+    virtual void restore_floating_area(const Tile* area, int x, int y) = 0;
 };

@@ -15,10 +15,10 @@ std::unique_ptr<Tile> copy_of(const Tile& source) {
 Copy_Buffer::Copy_Buffer() = default;
 Copy_Buffer::~Copy_Buffer() = default;
 
-bool Copy_Buffer::copy(const Tile& tile, const Tile& mask) {
-    if (!tile.same_size(mask)) return false;
+std::unique_ptr<Tile> selected_pixels(const Tile& tile, const Tile& mask) {
+    if (!tile.same_size(mask)) return nullptr;
     const Rectangle box = mask_ops::bounds(mask);
-    if (box.empty()) return false;
+    if (box.empty()) return nullptr;
     auto image = std::make_unique<Tile>(box.width, box.height);
     for (int y = 0; y < box.height; ++y)
         for (int x = 0; x < box.width; ++x) {
@@ -26,20 +26,30 @@ bool Copy_Buffer::copy(const Tile& tile, const Tile& mask) {
             image->set_pixel(x, y, inside ? tile.get_pixel(box.x + x, box.y + y) : Color(0, 0, 0, 0));
         }
     image->update_texture();
-    images.push_front(std::move(image));
-    if (int(images.size()) > kept) images.pop_back();
+    return image;
+}
+
+bool Copy_Buffer::copy(const Tile& tile, const Tile& mask) {
+    auto image = selected_pixels(tile, mask);
+    if (!image) return false;
+    push(Entry{std::move(image), mask_ops::bounds(mask), tile.width(), tile.height()});
     return true;
 }
 
-void Copy_Buffer::keep(const Tile& image) {
-    images.push_front(copy_of(image));
-    if (int(images.size()) > kept) images.pop_back();
+void Copy_Buffer::keep(const Tile& image, int x, int y, int tile_width, int tile_height) {
+    push(Entry{copy_of(image), Rectangle{x, y, image.width(), image.height()}, tile_width, tile_height});
 }
 
-const Tile* Copy_Buffer::current() const { return images.empty() ? nullptr : images.front().get(); }
+void Copy_Buffer::push(Entry entry) {
+    images.push_front(std::move(entry));
+    if (int(images.size()) > kept) images.pop_back();
+    ++changes;
+}
+
+const Tile* Copy_Buffer::current() const { return images.empty() ? nullptr : images.front().image.get(); }
 
 const Tile* Copy_Buffer::at(int index) const {
-    return index >= 0 && index < int(images.size()) ? images[size_t(index)].get() : nullptr;
+    return index >= 0 && index < int(images.size()) ? images[size_t(index)].image.get() : nullptr;
 }
 
 bool Copy_Buffer::make_current(int index) {
@@ -47,6 +57,7 @@ bool Copy_Buffer::make_current(int index) {
     auto chosen = std::move(images[size_t(index)]);
     images.erase(images.begin() + index);
     images.push_front(std::move(chosen));
+    ++changes;
     return true;
 }
 

@@ -3,7 +3,14 @@
 #include <deque>
 #include <memory>
 
+#include "ui/rectangle.h"
+
 class Tile;
+
+// The selected pixels' bounding box as an image, the unselected ones
+// transparent; none when nothing is selected. What "Copy" keeps, and what a
+// brush taken from the selection is made of.
+std::unique_ptr<Tile> selected_pixels(const Tile& tile, const Tile& mask);
 
 // Where a copied image lands on a tile: the image to float (a copy, or the
 // image resampled to the tile's size) and its top-left corner.
@@ -31,8 +38,9 @@ public:
     // The selected pixels' bounding box, the unselected ones transparent.
     // False, and nothing kept, when nothing is selected.
     bool copy(const Tile& tile, const Tile& mask);
-    // An image kept as it is, such as a floating image copied again.
-    void keep(const Tile& image);
+    // An image kept as it is, such as a floating image copied again, with the
+    // place it stood on a tile of the given size.
+    void keep(const Tile& image, int x, int y, int tile_width, int tile_height);
 
     bool empty() const { return images.empty(); }
     // The current image, or none.
@@ -48,7 +56,23 @@ public:
     // scaled to the tile's size, pixel by nearest pixel. No placement when the
     // buffer is empty.
     Placement place(int tile_width, int tile_height, int style) const;
+    // Where the current image was taken from: its place (x, y) on a tile of
+    // the size (width, height); empty when the buffer is.
+    Rectangle source() const { return images.empty() ? Rectangle{} : images.front().from; }
+    int source_tile_width() const { return images.empty() ? 0 : images.front().tile_width; }
+    int source_tile_height() const { return images.empty() ? 0 : images.front().tile_height; }
+    // Bumped by every change, so a view of the buffer knows when to redraw.
+    int generation() const { return changes; }
 
 private:
-    std::deque<std::unique_ptr<Tile>> images;
+    struct Entry {
+        std::unique_ptr<Tile> image;
+        Rectangle from;
+        int tile_width = 0;
+        int tile_height = 0;
+    };
+    void push(Entry entry);
+
+    std::deque<Entry> images;
+    int changes = 0;
 };

@@ -1,5 +1,7 @@
 #include "selection/floating.h"
 
+#include <vector>
+
 #include "document/tile.h"
 #include "selection/mask_ops.h"
 
@@ -22,6 +24,16 @@ void stamp_wrapped(Tile& tile, const Tile& image, int x, int y) {
             const Color c = image.get_pixel(ix, iy);
             if (c.alpha != 0) tile.set_pixel(wrap(x + ix, w), wrap(y + iy, h), c);
         }
+}
+
+void scroll_wrapped(Tile& tile, int dx, int dy) {
+    const int w = tile.width();
+    const int h = tile.height();
+    if (w <= 0 || h <= 0 || (wrap(dx, w) == 0 && wrap(dy, h) == 0)) return;
+    const std::vector<Color> before(tile.pixels(), tile.pixels() + tile.pixel_count());
+    for (int y = 0; y < h; ++y)
+        for (int x = 0; x < w; ++x)
+            tile.pixels()[wrap(y + dy, h) * w + wrap(x + dx, w)] = before[size_t(y * w + x)];
 }
 
 void stamp_clipped(Tile& tile, const Tile& image, int x, int y) {

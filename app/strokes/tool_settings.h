@@ -9,7 +9,7 @@ class Tile;
 enum Right_Button_Mode : int { right_button_color = 0, right_button_history = 1, right_button_dropper = 2 };
 
 // What a stroke shows in the tool options pane while it runs.
-enum class Readout { length, size, radius, location, color };
+enum class Readout { length, size, radius, location, color, degrees, offset };
 
 // Everything a stroke needs from the colour panes, the brush selector and the
 // tool options pane, gathered as plain values when the button goes down, so

@@ -140,10 +140,24 @@ TEST_F(BrushPad, UseAsBrushMoveToPadAndDeleteBrushWithTheirRefusals) {
     expect_refused(command_move_to_pad);
     expect_refused(command_delete_brush);
 
+    // "Use as brush" takes the selected pixels (the unselected ones of their
+    // box clear) and refuses without a selection.
+    expect_refused(command_use_as_brush);
+    Canvas_View& view = g_editor->canvas();
+    const auto brush = make_brush();
+    for (int y = 0; y < 2; ++y)
+        for (int x = 0; x < 3; ++x)
+            if (brush->get_pixel(x, y) != clear) {
+                view.tile()->set_pixel(20 + x, 20 + y, brush->get_pixel(x, y));
+                view.selection()->set_pixel(20 + x, 20 + y, white);
+            }
+    view.set_has_selection(true);
+    EXPECT_EQ(g_editor->execute(command_use_as_brush), command_use_as_brush);
+    g_editor->execute(command_deselect);
+
     // The temporary brush: the stamp brush is chosen and draws with it,
     // centred, before it is on the pad.
     set_colors(white, yellow);
-    ASSERT_TRUE(g_editor->use_as_brush(*make_brush()));
     EXPECT_EQ(g_editor->current_tool(), command_stamp_brush);
     EXPECT_EQ(g_tool_options->page(), 13);
     stroke({{10, 10}});

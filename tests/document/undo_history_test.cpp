@@ -29,8 +29,9 @@ struct Fake_Target : Undo_Target {
             selected = false;
         }
     }
-    void restore_floating_area(const Tile& area, int x, int y) override {
-        restored = area.get_pixel(0, 0);
+    void restore_floating_area(const Tile* area, int x, int y) override {
+        if (!area) return;
+        restored = area->get_pixel(0, 0);
         restored_x = x;
         restored_y = y;
     }

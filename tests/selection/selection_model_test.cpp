@@ -100,7 +100,7 @@ TEST(CopyBuffer, ClonesAreCentredAnchoredOrResizedForLargerAndSmallerImages) {
     Tile small(4, 2);
     small.fill(Color(9, 9, 9));
     small.set_pixel(0, 0, Color(0, 0, 0, 0));
-    buffer.keep(small);
+    buffer.keep(small, 0, 0, 4, 2);
     Placement p = buffer.place(16, 16, Copy_Buffer::centre);
     EXPECT_EQ(p.x, 6);
     EXPECT_EQ(p.y, 7);
@@ -115,7 +115,7 @@ TEST(CopyBuffer, ClonesAreCentredAnchoredOrResizedForLargerAndSmallerImages) {
 
     Tile large(20, 10);
     large.fill(Color(1, 2, 3));
-    buffer.keep(large);
+    buffer.keep(large, 0, 0, 20, 10);
     p = buffer.place(8, 8, Copy_Buffer::centre);
     EXPECT_EQ(p.x, -6);  // overhangs evenly
     EXPECT_EQ(p.y, -1);
