@@ -196,10 +196,44 @@ inline Color over(Color below, Color above) {
 // cells there are. The picture is the one the per-cell steps describe: the
 // checkerboard, the pixel blended over it, the grid in a contrast of the
 // pixel's colour, then a pending floating image or the veil outside the selection.
+// True when something other than the tile's and the mask's rows changed since
+// the last composition (and keeps what it compared for the next time).
+bool Canvas_View::compose_everything() {
+    const bool with_float = !selection_on && pending && floating;
+    const Compose_Key key{shown->width(), shown->height(), checker_w, checker_h, grid_contrast, selection_on, with_float,
+                          float_x, float_y, with_float ? floating->width() : 0, with_float ? floating->height() : 0};
+    const size_t cells = size_t(shown->pixel_count());
+    bool all = key != composed_key || composed_pixels.size() != cells;
+    if (selection_on && !mask->same_size(*shown)) all = true;
+    composed_key = key;
+    if (with_float) {
+        const size_t n = size_t(floating->pixel_count());
+        if (composed_float.size() != n || !std::equal(floating->pixels(), floating->pixels() + n, composed_float.begin())) {
+            composed_float.assign(floating->pixels(), floating->pixels() + n);
+            all = true;
+        }
+    }
+    if (all) {
+        composed_pixels.assign(cells, Color(0, 0, 0, 0));
+        composed_mask.assign(cells, Color(0, 0, 0, 0));
+    }
+    return all;
+}
+
 void Canvas_View::compose_cells() {
     const int w = shown->width();
     const int h = shown->height();
-    for (int ty = 0; ty < h; ++ty)
+    const bool all = compose_everything();
+    const bool masked = selection_on && mask->same_size(*shown);
+    for (int ty = 0; ty < h; ++ty) {
+        const size_t row = size_t(ty * w);
+        const Color* pixels = shown->pixels() + row;
+        const Color* mask_pixels = masked ? mask->pixels() + row : nullptr;
+        if (!all && std::equal(pixels, pixels + w, composed_pixels.begin() + std::ptrdiff_t(row)) &&
+            (!masked || std::equal(mask_pixels, mask_pixels + w, composed_mask.begin() + std::ptrdiff_t(row))))
+            continue;
+        std::copy(pixels, pixels + w, composed_pixels.begin() + std::ptrdiff_t(row));
+        if (masked) std::copy(mask_pixels, mask_pixels + w, composed_mask.begin() + std::ptrdiff_t(row));
         for (int tx = 0; tx < w; ++tx) {
             const bool light = ((tx / checker_w) + (ty / checker_h)) % 2 == 0;
             const Color pixel = shown->get_pixel(tx, ty);
@@ -231,6 +265,7 @@ void Canvas_View::compose_cells() {
             cell_inside[size_t(ty * w + tx)] = argb(inside);
             cell_grid[size_t(ty * w + tx)] = argb(grid);
         }
+    }
 }
 
 void Canvas_View::draw(Main_Window& window) {

@@ -144,6 +144,28 @@ private:
         bool operator==(const Picture_Key&) const = default;
     };
     void upload_band(const Picture_Key& key, int ty);
+    // What the composed cells were made from. A repaint composes again only
+    // the rows whose pixels or mask changed, and everything when any of the
+    // rest did: an unchanged 64 x 64 tile costs a compare, not 4,096 blends.
+    struct Compose_Key {
+        int width = 0;
+        int height = 0;
+        int checker_w = 0;
+        int checker_h = 0;
+        int grid_contrast = 0;
+        bool selection_on = false;
+        bool floating = false;
+        int float_x = 0;
+        int float_y = 0;
+        int float_w = 0;
+        int float_h = 0;
+        bool operator==(const Compose_Key&) const = default;
+    };
+    bool compose_everything();
+    Compose_Key composed_key;
+    std::vector<Color> composed_pixels;
+    std::vector<Color> composed_mask;
+    std::vector<Color> composed_float;
     Picture_Key shown_key;
     std::vector<uint32_t> shown_inside;
     std::vector<uint32_t> shown_grid;
