@@ -61,8 +61,11 @@ void Shape_Select_Stroke::apply(Canvas_View& view, Cell from, Cell to, int butto
     show(tools, Readout::location, to.x, to.y);
     if (ellipse)
         show(tools, Readout::radius, dx, dy);
-    else
-        show(tools, Readout::size, dx + 1, dy + 1);
+    else {
+        // What will be selected: a drag that began outside the tile is cut at its edge.
+        const Rectangle box = mask_ops::bounds(drawn);
+        show(tools, Readout::size, box.width, box.height);
+    }
 }
 
 void Shape_Select_Stroke::finish(Canvas_View& view, Cell start, Cell end, int button, bool dragged) {
