@@ -36,9 +36,17 @@ void compose_sheet(const Tile_Store& store, Image& sheet) {
 
 bool save_map(Tileset& tileset) {
     Map_Editor& map = tileset.map();
-    if (map.map().is_blank()) return true;
     const std::string path = Map_File::map_path(tileset.path().full);
     std::error_code error;
+    if (map.map().is_blank()) {
+        // A map the user emptied must not come back from the file it was read
+        // from or written to; any other file of that name is left alone.
+        if (map.own_file == path) {
+            std::filesystem::remove(path, error);
+            map.own_file.clear();
+        }
+        return true;
+    }
     if (map.own_file != path && std::filesystem::exists(path, error)) {
         const std::string question = "Replace the map file " + file_name(path) +
                                      "?\rIt holds a map this tileset did not read whole.";

@@ -70,6 +70,11 @@ TEST_F(MapFilesTest, TheMapComesBackWithItsTilesetAndABlankMapWritesNothing) {
     EXPECT_EQ(loaded.map().map().at(5, 5), 1);
     EXPECT_EQ(loaded.map().map().at(1, 0), Tile_Map::empty);
     EXPECT_EQ(loaded.map().own_file, tmx);
+
+    // Emptied by the user, the map must not come back from its old file.
+    for (const auto& [x, y] : {std::pair{0, 0}, std::pair{19, 19}, std::pair{5, 5}}) loaded.map().place(x, y, Tile_Map::empty);
+    save(loaded);
+    EXPECT_FALSE(std::filesystem::exists(tmx));
 }
 
 TEST_F(MapFilesTest, ADamagedMapIsReportedAndReplacedOnlyWhenTheUserAgrees) {
