@@ -129,7 +129,6 @@ void Canvas_View::commit_float() {
     floating::stamp_wrapped(*shown, *floating, float_x, float_y);
     shown->update_texture();
     pending = false;
-    outline_float();
 }
 
 void Canvas_View::paste(const Tile& image, int x, int y) {
@@ -142,16 +141,12 @@ void Canvas_View::paste(const Tile& image, int x, int y) {
 
 void Canvas_View::replace_float(const Tile* image, int x, int y) {
     pending = false;
-    if (image)
-        paste(*image, x, y);
-    else
-        outline_float();
+    if (image) paste(*image, x, y);
 }
 
 void Canvas_View::move_float(int x, int y) {
     float_x = shown ? floating::wrap(x, shown->width()) : x;
     float_y = shown ? floating::wrap(y, shown->height()) : y;
-    outline_float();
 }
 
 bool Canvas_View::on_float(int x, int y) const {
@@ -163,18 +158,6 @@ bool Canvas_View::on_float(int x, int y) const {
     return false;
 }
 
-// The floating image's opaque pixels, as the tile shows them, are outlined
-// with the second overlay's edges, so the user sees what will move.
-void Canvas_View::outline_float() {
-    if (!second_mask) return;
-    second_mask->fill(Color(0, 0, 0));
-    second_on = pending && floating && shown;
-    if (!second_on) return;
-    Tile stencil(floating->width(), floating->height());
-    for (int i = 0; i < stencil.pixel_count(); ++i)
-        stencil.pixels()[i] = floating->pixels()[i].alpha != 0 ? Color(255, 255, 255) : Color(0, 0, 0, 0);
-    floating::stamp_wrapped(*second_mask, stencil, float_x, float_y);
-}
 
 Cell Canvas_View::cell_at(float x, float y) const {
     return Cell{floor_div(int(x) - origin_x, cell_size), floor_div(int(y) - origin_y, cell_size)};
@@ -225,6 +208,10 @@ void Canvas_View::compose_cells() {
     const int h = shown->height();
     const bool all = compose_everything();
     const bool masked = selection_on && mask->same_size(*shown);
+    const bool floats = !selection_on && pending && floating;
+    const int fw = floats ? floating->width() : 0;
+    const int fh = floats ? floating->height() : 0;
+    const Color* image = floats ? floating->pixels() : nullptr;
     for (int ty = 0; ty < h; ++ty) {
         const size_t row = size_t(ty * w);
         const Color* pixels = shown->pixels() + row;
@@ -234,6 +221,9 @@ void Canvas_View::compose_cells() {
             continue;
         std::copy(pixels, pixels + w, composed_pixels.begin() + std::ptrdiff_t(row));
         if (masked) std::copy(mask_pixels, mask_pixels + w, composed_mask.begin() + std::ptrdiff_t(row));
+        // The image's column over each cell steps along without a division per cell.
+        const int first_iy = floats ? floating::wrap(ty - float_y, h) : 0;
+        int ix = floats ? floating::wrap(-float_x, w) : 0;
         for (int tx = 0; tx < w; ++tx) {
             const bool light = ((tx / checker_w) + (ty / checker_h)) % 2 == 0;
             const Color pixel = shown->get_pixel(tx, ty);
@@ -244,21 +234,20 @@ void Canvas_View::compose_cells() {
                 lighten(grid, grid_contrast);
             else
                 darken(grid, grid_contrast);
-            if (!selection_on) {
-                if (pending && floating) {
-                    // The last of the image's pixels over this cell shows, as it would be stamped.
-                    Color f(0, 0, 0, 0);
-                    for (int iy = floating::wrap(ty - float_y, h); iy < floating->height(); iy += h)
-                        for (int ix = floating::wrap(tx - float_x, w); ix < floating->width(); ix += w) {
-                            const Color c = floating->get_pixel(ix, iy);
-                            if (c.alpha != 0) f = c;
-                        }
-                    if (f.alpha != 0) {
-                        inside = over(inside, f);
-                        grid = over(grid, f);
+            if (floats) {
+                // The last of the image's pixels over this cell shows, as it would be stamped.
+                Color f(0, 0, 0, 0);
+                for (int iy = first_iy; iy < fh; iy += h)
+                    for (int jx = ix; jx < fw; jx += w) {
+                        const Color c = image[size_t(iy) * size_t(fw) + size_t(jx)];
+                        if (c.alpha != 0) f = c;
                     }
+                if (f.alpha != 0) {
+                    inside = over(inside, f);
+                    grid = over(grid, f);
                 }
-            } else if (!is_selected(*mask, tx, ty)) {
+                if (++ix == w) ix = 0;
+            } else if (selection_on && !is_selected(*mask, tx, ty)) {
                 inside = over(inside, ui_colors[1]);
                 grid = over(grid, ui_colors[1]);
             }
@@ -312,6 +301,20 @@ void Canvas_View::draw(Main_Window& window) {
     const int w = shown->width();
     const int first_row = (top - origin_y) / s;
     const int last_row = (bottom - 1 - origin_y) / s;
+    // Changed bands are composed first and sent to the texture in runs, one
+    // upload per run of neighbouring bands: a drag that changes every row
+    // costs one upload, not one per row.
+    int run_first = -1;
+    uint64_t run_generation = 0;
+    auto send_run = [&](int end_row) {
+        if (run_first < 0) return;
+        const int y0 = std::max(top, origin_y + run_first * s);
+        const int y1 = std::min(bottom, origin_y + end_row * s);
+        const SDL_Rect area{left - view.x, y0 - view.y, right - left, y1 - y0};
+        SDL_UpdateTexture(picture_texture, &area, &picture[size_t(area.y) * size_t(view.width) + size_t(area.x)],
+                          view.width * 4);
+        run_first = -1;
+    };
     for (int ty = first_row; ty <= last_row; ++ty) {
         const auto from = cell_inside.begin() + std::ptrdiff_t(ty * w);
         const auto grid_from = cell_grid.begin() + std::ptrdiff_t(ty * w);
@@ -320,8 +323,18 @@ void Canvas_View::draw(Main_Window& window) {
         if (all || !std::equal(from, from + w, shown_from) || !std::equal(grid_from, grid_from + w, shown_grid_from)) {
             std::copy(from, from + w, shown_from);
             std::copy(grid_from, grid_from + w, shown_grid_from);
-            upload_band(key, ty);
+            compose_band(key, ty);
+            if (run_first < 0) {
+                run_first = ty;
+                run_generation = Draw_Sink::fresh_generation();
+            }
+            band_generation[size_t(ty)] = run_generation;
+        } else {
+            send_run(ty);
         }
+    }
+    send_run(last_row + 1);
+    for (int ty = first_row; ty <= last_row; ++ty) {
         const int y0 = std::max(top, origin_y + ty * s);
         const int y1 = std::min(bottom, origin_y + (ty + 1) * s);
         const SDL_FRect picture_part{float(left - view.x), float(y0 - view.y), float(right - left), float(y1 - y0)};
@@ -329,6 +342,7 @@ void Canvas_View::draw(Main_Window& window) {
         window.sink().copy(picture_texture, band_generation[size_t(ty)], false, picture_part, screen_part);
     }
 
+    if (pending && floating) frame_float(window);
     // Edge pieces only where a selection or a seam needs them.
     if (!selection_on && !second_on && seam_h < 0 && seam_v < 0) return;
     window.clip(view);
@@ -342,9 +356,9 @@ void Canvas_View::draw(Main_Window& window) {
 }
 
 // Expands one tile row of composed cells to screen pixels inside the key's
-// area and uploads them. Each screen row is composed once per run of identical
+// area. Each screen row is composed once per run of identical
 // rows: s - 1 rows of cell insides and one row of grid, and copies do the rest.
-void Canvas_View::upload_band(const Picture_Key& key, int ty) {
+void Canvas_View::compose_band(const Picture_Key& key, int ty) {
     const int s = key.cell_size;
     const int left = key.area.x;
     const int right = left + key.area.width;
@@ -360,23 +374,50 @@ void Canvas_View::upload_band(const Picture_Key& key, int ty) {
         const bool grid_row = iy == s - 1;
         const int run = std::min(bottom - y, grid_row ? 1 : s - 1 - iy);
         uint32_t* row = &picture[size_t(y - view.y) * stride + size_t(left - view.x)];
+        // Cell by cell: s - 1 pixels of the inside and one of grid (a grid
+        // row is grid throughout), cut to the area at both ends.
         uint32_t* out = row;
         int tx = (left - key.origin_x) / s;
         int ix = (left - key.origin_x) % s;
-        for (int x = left; x < right; ++x) {
-            *out++ = (grid_row || ix == s - 1) ? grid[tx] : inside[tx];
-            if (++ix == s) {
-                ix = 0;
-                ++tx;
+        for (int x = left; x < right; ++tx, ix = 0) {
+            const int inside_n = std::min(right - x, std::max(0, s - 1 - ix));
+            if (grid_row) {
+                const int n = std::min(right - x, s - ix);
+                out = std::fill_n(out, n, grid[tx]);
+                x += n;
+                continue;
+            }
+            out = std::fill_n(out, inside_n, inside[tx]);
+            x += inside_n;
+            if (x < right) {
+                *out++ = grid[tx];
+                ++x;
             }
         }
         for (int r = 1; r < run; ++r) std::memcpy(row + size_t(r) * stride, row, span * sizeof(uint32_t));
         y += run;
     }
-    const SDL_Rect area{left - view.x, top - view.y, right - left, bottom - top};
-    const uint32_t* first = &picture[size_t(area.y) * stride + size_t(area.x)];
-    SDL_UpdateTexture(picture_texture, &area, first, view.width * 4);
-    band_generation[size_t(ty)] = Draw_Sink::fresh_generation();
+}
+
+// The floating image's box is framed in cyan, in up to four pieces where it
+// wraps, so the user sees what will move: a handful of rectangles, which a
+// drag redraws at every move, where a per-pixel outline would cost hundreds.
+void Canvas_View::frame_float(Main_Window& window) {
+    const int w = shown->width();
+    const int h = shown->height();
+    const int s = cell_size;
+    const int fw = std::min(floating->width(), w);
+    const int fh = std::min(floating->height(), h);
+    const int xs[2][2] = {{float_x, std::min(float_x + fw, w)}, {0, float_x + fw - w}};
+    const int ys[2][2] = {{float_y, std::min(float_y + fh, h)}, {0, float_y + fh - h}};
+    window.clip(view);
+    for (const auto& xr : xs)
+        for (const auto& yr : ys)
+            if (xr[1] > xr[0] && yr[1] > yr[0])
+                window.frame(Rectangle{origin_x + xr[0] * s, origin_y + yr[0] * s, (xr[1] - xr[0]) * s,
+                                       (yr[1] - yr[0]) * s},
+                             ui_colors[10]);
+    window.end_clip();
 }
 
 void Canvas_View::draw_cell_marks(Main_Window& window, int tx, int ty, int px, int py) {

@@ -99,7 +99,7 @@ private:
     void draw_cell_marks(Main_Window& window, int tx, int ty, int px, int py);
     void draw_edges(Main_Window& window, const Tile& m, int tx, int ty, int px, int py, bool active);
     void keep_pointer_on_tile(float x, float y);
-    void outline_float();
+    void frame_float(Main_Window& window);
     void resize_masks();
     void update_extent();
 
@@ -143,7 +143,7 @@ private:
         int tile_width = 0;
         bool operator==(const Picture_Key&) const = default;
     };
-    void upload_band(const Picture_Key& key, int ty);
+    void compose_band(const Picture_Key& key, int ty);
     // What the composed cells were made from. A repaint composes again only
     // the rows whose pixels or mask changed, and everything when any of the
     // rest did: an unchanged 64 x 64 tile costs a compare, not 4,096 blends.
