@@ -27,6 +27,7 @@ Canvas_View::Canvas_View(const Rectangle& view, Color background) : view(view), 
 
 Canvas_View::~Canvas_View() {
     if (picture_texture) SDL_DestroyTexture(picture_texture);
+    if (float_texture) SDL_DestroyTexture(float_texture);
 }
 
 bool Canvas_View::set_pixel_size(int s) {
@@ -180,22 +181,13 @@ inline Color over(Color below, Color above) {
 // checkerboard, the pixel blended over it, the grid in a contrast of the
 // pixel's colour, then a pending floating image or the veil outside the selection.
 // True when something other than the tile's and the mask's rows changed since
-// the last composition (and keeps what it compared for the next time).
+// the last composition.
 bool Canvas_View::compose_everything() {
-    const bool with_float = !selection_on && pending && floating;
-    const Compose_Key key{shown->width(), shown->height(), checker_w, checker_h, grid_contrast, selection_on, with_float,
-                          float_x, float_y, with_float ? floating->width() : 0, with_float ? floating->height() : 0};
+    const Compose_Key key{shown->width(), shown->height(), checker_w, checker_h, grid_contrast, selection_on};
     const size_t cells = size_t(shown->pixel_count());
     bool all = key != composed_key || composed_pixels.size() != cells;
     if (selection_on && !mask->same_size(*shown)) all = true;
     composed_key = key;
-    if (with_float) {
-        const size_t n = size_t(floating->pixel_count());
-        if (composed_float.size() != n || !std::equal(floating->pixels(), floating->pixels() + n, composed_float.begin())) {
-            composed_float.assign(floating->pixels(), floating->pixels() + n);
-            all = true;
-        }
-    }
     if (all) {
         composed_pixels.assign(cells, Color(0, 0, 0, 0));
         composed_mask.assign(cells, Color(0, 0, 0, 0));
@@ -208,10 +200,6 @@ void Canvas_View::compose_cells() {
     const int h = shown->height();
     const bool all = compose_everything();
     const bool masked = selection_on && mask->same_size(*shown);
-    const bool floats = !selection_on && pending && floating;
-    const int fw = floats ? floating->width() : 0;
-    const int fh = floats ? floating->height() : 0;
-    const Color* image = floats ? floating->pixels() : nullptr;
     for (int ty = 0; ty < h; ++ty) {
         const size_t row = size_t(ty * w);
         const Color* pixels = shown->pixels() + row;
@@ -221,9 +209,6 @@ void Canvas_View::compose_cells() {
             continue;
         std::copy(pixels, pixels + w, composed_pixels.begin() + std::ptrdiff_t(row));
         if (masked) std::copy(mask_pixels, mask_pixels + w, composed_mask.begin() + std::ptrdiff_t(row));
-        // The image's column over each cell steps along without a division per cell.
-        const int first_iy = floats ? floating::wrap(ty - float_y, h) : 0;
-        int ix = floats ? floating::wrap(-float_x, w) : 0;
         for (int tx = 0; tx < w; ++tx) {
             const bool light = ((tx / checker_w) + (ty / checker_h)) % 2 == 0;
             const Color pixel = shown->get_pixel(tx, ty);
@@ -234,20 +219,7 @@ void Canvas_View::compose_cells() {
                 lighten(grid, grid_contrast);
             else
                 darken(grid, grid_contrast);
-            if (floats) {
-                // The last of the image's pixels over this cell shows, as it would be stamped.
-                Color f(0, 0, 0, 0);
-                for (int iy = first_iy; iy < fh; iy += h)
-                    for (int jx = ix; jx < fw; jx += w) {
-                        const Color c = image[size_t(iy) * size_t(fw) + size_t(jx)];
-                        if (c.alpha != 0) f = c;
-                    }
-                if (f.alpha != 0) {
-                    inside = over(inside, f);
-                    grid = over(grid, f);
-                }
-                if (++ix == w) ix = 0;
-            } else if (selection_on && !is_selected(*mask, tx, ty)) {
+            if (selection_on && !is_selected(*mask, tx, ty)) {
                 inside = over(inside, ui_colors[1]);
                 grid = over(grid, ui_colors[1]);
             }
@@ -342,6 +314,7 @@ void Canvas_View::draw(Main_Window& window) {
         window.sink().copy(picture_texture, band_generation[size_t(ty)], false, picture_part, screen_part);
     }
 
+    if (pending && floating && !selection_on) draw_float(window);
     if (pending && floating) frame_float(window);
     // Edge pieces only where a selection or a seam needs them.
     if (!selection_on && !second_on && seam_h < 0 && seam_v < 0) return;
@@ -397,6 +370,62 @@ void Canvas_View::compose_band(const Picture_Key& key, int ty) {
         for (int r = 1; r < run; ++r) std::memcpy(row + size_t(r) * stride, row, span * sizeof(uint32_t));
         y += run;
     }
+}
+
+// The floating image is a layer of its own over the composed cells, drawn
+// magnified and blended by its alpha, once for every place where it wraps
+// onto the tile: moving it redraws the layer, and no cell is composed or
+// uploaded again. Where it wraps onto itself the later pixels show, as they
+// would be stamped.
+void Canvas_View::draw_float(Main_Window& window) {
+    const int s = cell_size;
+    const int fw = floating->width();
+    const int fh = floating->height();
+    if (fw <= 0 || fh <= 0) return;
+    // Magnified in memory once per change of the image or the zoom, so a move
+    // is one unscaled blended copy (the renderer's scaled blending is slow).
+    const int tw = fw * s;
+    const int th = fh * s;
+    const size_t n = size_t(floating->pixel_count());
+    if (!float_texture || float_texture_w != tw || float_texture_h != th) {
+        if (float_texture) SDL_DestroyTexture(float_texture);
+        float_texture = SDL_CreateTexture(window.renderer(), SDL_PIXELFORMAT_ARGB8888, SDL_TEXTUREACCESS_STREAMING,
+                                          tw, th);
+        SDL_SetTextureBlendMode(float_texture, SDL_BLENDMODE_BLEND);
+        float_texture_w = tw;
+        float_texture_h = th;
+        uploaded_float.clear();
+    }
+    if (uploaded_float.size() != n || !std::equal(floating->pixels(), floating->pixels() + n, uploaded_float.begin())) {
+        uploaded_float.assign(floating->pixels(), floating->pixels() + n);
+        float_picture.resize(size_t(tw) * size_t(th));
+        for (int y = 0; y < th; ++y) {
+            uint32_t* row = &float_picture[size_t(y) * size_t(tw)];
+            if (y % s != 0) {
+                std::copy(row - tw, row, row);
+                continue;
+            }
+            // Colours lie in memory as blue, green, red, alpha: the texture's own layout.
+            const Color* source = floating->pixels() + size_t(y / s) * size_t(fw);
+            for (int x = 0; x < fw; ++x) std::fill_n(row + size_t(x) * size_t(s), s, source[x].word());
+        }
+        SDL_UpdateTexture(float_texture, nullptr, float_picture.data(), tw * 4);
+        float_generation = Draw_Sink::fresh_generation();
+    }
+    const int w = shown->width();
+    const int h = shown->height();
+    window.clip(Rectangle{origin_x, origin_y, extent_w, extent_h}.intersection(view));
+    const SDL_FRect source{0, 0, float(tw), float(th)};
+    const int fx = floating::wrap(float_x, w);
+    const int fy = floating::wrap(float_y, h);
+    for (int j = 0; fy - j * h + fh > 0; ++j)
+        for (int i = 0; fx - i * w + fw > 0; ++i) {
+            const int x = fx - i * w;
+            const int y = fy - j * h;
+            const SDL_FRect place{float(origin_x + x * s), float(origin_y + y * s), float(fw * s), float(fh * s)};
+            window.sink().copy(float_texture, float_generation, true, source, place);
+        }
+    window.end_clip();
 }
 
 // The floating image's box is framed in cyan, in up to four pieces where it

@@ -147,6 +147,7 @@ private:
     // What the composed cells were made from. A repaint composes again only
     // the rows whose pixels or mask changed, and everything when any of the
     // rest did: an unchanged 64 x 64 tile costs a compare, not 4,096 blends.
+    // The floating image is not in the cells but a layer over them.
     struct Compose_Key {
         int width = 0;
         int height = 0;
@@ -154,18 +155,19 @@ private:
         int checker_h = 0;
         int grid_contrast = 0;
         bool selection_on = false;
-        bool floating = false;
-        int float_x = 0;
-        int float_y = 0;
-        int float_w = 0;
-        int float_h = 0;
         bool operator==(const Compose_Key&) const = default;
     };
     bool compose_everything();
     Compose_Key composed_key;
     std::vector<Color> composed_pixels;
     std::vector<Color> composed_mask;
-    std::vector<Color> composed_float;
+    void draw_float(Main_Window& window);
+    SDL_Texture* float_texture = nullptr;
+    int float_texture_w = 0;
+    int float_texture_h = 0;
+    uint64_t float_generation = 0;
+    std::vector<Color> uploaded_float;
+    std::vector<uint32_t> float_picture;
     Picture_Key shown_key;
     std::vector<uint32_t> shown_inside;
     std::vector<uint32_t> shown_grid;

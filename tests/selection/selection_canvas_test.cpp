@@ -345,3 +345,26 @@ TEST_F(Selecting, AnotherTileClearsTheSelectionAndAntiAliasSmoothsOnlySteps) {
     undo();
     for (int i = 0; i < before.pixel_count(); ++i) ASSERT_EQ(tile().pixels()[i], before.pixels()[i]) << i;
 }
+
+// The floating image is a layer over the cells: it shows wrapped where it
+// crosses the edge, blended by its alpha, and leaves no trace where it was.
+TEST_F(Selecting, AFloatingImageShowsWrappedAndBlendedAndMovesWithoutATrace) {
+    fill_tile(Color(0, 0, 0));
+    const int w = tile().width();
+    const Color untouched = on_screen(1, 3);
+    Tile image(2, 1);
+    image.set_pixel(0, 0, red);
+    image.set_pixel(1, 0, Color(10, 40, 230, 128));
+    view().paste(image, w - 1, 3);
+    EXPECT_EQ(on_screen(w - 1, 3), red);
+    const Color half = on_screen(0, 3);  // the wrapped, half-transparent pixel
+    EXPECT_GT(half.blue, 100);
+    EXPECT_LT(half.blue, 230);
+    EXPECT_EQ(on_screen(1, 3), untouched);
+
+    view().replace_float(&image, 4, 5);
+    EXPECT_EQ(on_screen(w - 1, 3), untouched);
+    EXPECT_EQ(on_screen(0, 3), untouched);
+    EXPECT_EQ(on_screen(4, 5), red);
+    EXPECT_EQ(tile().get_pixel(4, 5), Color(0, 0, 0)) << "floating, not stamped";
+}
