@@ -175,11 +175,6 @@ inline Color over(Color below, Color above) {
 }
 }  // namespace
 
-// Every cell is composed in memory and the visible part of the tile goes to
-// the screen as one texture: one upload and one copy per repaint, however many
-// cells there are. The picture is the one the per-cell steps describe: the
-// checkerboard, the pixel blended over it, the grid in a contrast of the
-// pixel's colour, then a pending floating image or the veil outside the selection.
 // True when something other than the tile's and the mask's rows changed since
 // the last composition.
 bool Canvas_View::compose_everything() {
@@ -195,6 +190,11 @@ bool Canvas_View::compose_everything() {
     return all;
 }
 
+// Every cell is composed in memory and the visible part of the tile goes to
+// the screen as one texture: one upload and one copy per repaint, however many
+// cells there are. The picture is the one the per-cell steps describe: the
+// checkerboard, the pixel blended over it, the grid in a contrast of the
+// pixel's colour, then the veil outside the selection.
 void Canvas_View::compose_cells() {
     const int w = shown->width();
     const int h = shown->height();
