@@ -11,6 +11,7 @@
 #include "app/ui_colors.h"
 #include "document/tile_store.h"
 #include "ui/backdrop.h"
+#include "ui/modal_loop.h"
 #include "ui/dialog_row.h"
 #include "ui/text_writer.h"
 #include "ui/wait_for_key.h"
@@ -108,16 +109,7 @@ bool Arrange_Dialog::run() {
     secondary = 0;
     hovered = -1;
     swapped = false;
-    {
-        const Backdrop_Layer layer(paint_dialog, this, dialog_area);
-        SDL_Event event;
-        for (bool open = true; open;) {
-            Backdrop::paint();
-            g_main_window->present();
-            if (!wait_event(event)) break;
-            open = handle(event);
-        }
-    }
+    run_modal_layer(paint_dialog, this, dialog_area, [this](SDL_Event& event) { return handle(event); });
     flush_events();
     return swapped;
 }

@@ -8,6 +8,7 @@
 #include "document/tile_store.h"
 #include "mapeditor/map_editor.h"
 #include "ui/backdrop.h"
+#include "ui/modal_loop.h"
 #include "ui/wait_for_key.h"
 
 namespace {
@@ -103,16 +104,7 @@ const std::vector<Seam>& Map_View::seam_list() {
 }
 
 Map_View::Outcome Map_View::run() {
-    {
-        const Backdrop_Layer layer(paint_view, this, view_area);
-        SDL_Event event;
-        for (bool open = true; open;) {
-            Backdrop::paint();
-            g_main_window->present();
-            if (!wait_event(event)) break;
-            open = handle(event);
-        }
-    }
+    run_modal_layer(paint_view, this, view_area, [this](SDL_Event& event) { return handle(event); });
     editor.end_stroke();
     flush_events();
     return Outcome{picked ? chosen : -1, editor.generation() != start_generation};

@@ -8,6 +8,7 @@
 #include "app/texture.h"
 #include "document/tile_store.h"
 #include "ui/backdrop.h"
+#include "ui/modal_loop.h"
 #include "ui/checkerboard.h"
 #include "ui/text_writer.h"
 #include "ui/ui_style.h"
@@ -128,16 +129,7 @@ void Real_Size_View::draw() {
 }
 
 int Real_Size_View::run() {
-    {
-        const Backdrop_Layer layer(paint_view, this, view_area);
-        SDL_Event event;
-        for (bool open = true; open;) {
-            Backdrop::paint();
-            g_main_window->present();
-            if (!wait_event(event)) break;
-            open = handle(event);
-        }
-    }
+    run_modal_layer(paint_view, this, view_area, [this](SDL_Event& event) { return handle(event); });
     flush_events();
     return chosen;
 }

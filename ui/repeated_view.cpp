@@ -8,6 +8,7 @@
 #include "app/texture.h"
 #include "document/tile.h"
 #include "ui/backdrop.h"
+#include "ui/modal_loop.h"
 #include "ui/checkerboard.h"
 #include "ui/wait_for_key.h"
 
@@ -81,25 +82,11 @@ void Repeated_View::draw() {
 }
 
 void Repeated_View::run() {
-    {
-        const Backdrop_Layer layer(paint_view, this, view_area);
-        SDL_Event event;
-        for (bool open = true; open;) {
-            Backdrop::paint();
-            g_main_window->present();
-            if (!wait_event(event)) break;
-            switch (event.type) {
-                case SDL_EVENT_QUIT:
-                case SDL_EVENT_WINDOW_CLOSE_REQUESTED:
-                case SDL_EVENT_KEY_DOWN:
-                case SDL_EVENT_MOUSE_BUTTON_DOWN:
-                    open = false;
-                    break;
-                default:
-                    break;
-            }
-        }
-    }
+    // Any key or click closes it, as do a quit and a close request.
+    run_modal_layer(paint_view, this, view_area, [](SDL_Event& event) {
+        return event.type != SDL_EVENT_QUIT && event.type != SDL_EVENT_WINDOW_CLOSE_REQUESTED &&
+               event.type != SDL_EVENT_KEY_DOWN && event.type != SDL_EVENT_MOUSE_BUTTON_DOWN;
+    });
     flush_events();
 }
 
