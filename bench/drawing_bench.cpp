@@ -22,6 +22,7 @@
 #include "document/undo_history.h"
 #include "document/undo_target.h"
 #include "bench_program.h"
+#include "canvas_drag.h"
 #include "ui/backdrop.h"
 
 
@@ -101,53 +102,14 @@ struct Program : Bench_Program {
     }
 };
 
-// Feeds the stroke loop one motion per repaint and times each event.
-struct Drag {
-    static constexpr int events = 2000;
-    std::vector<uint64_t> stamps;
-    int sent = 0;
-
-    static void paint(void* self) {
-        auto* d = static_cast<Drag*>(self);
-        g_editor->repaint(false);
-        d->stamps.push_back(SDL_GetTicksNS());
-        SDL_Event e{};
-        const Canvas_View& view = g_editor->canvas();
-        if (d->sent < events) {
-            // Back and forth across the tile along a zigzag.
-            const int i = d->sent++;
-            const int cx = (i * 3) % 128 < 64 ? (i * 3) % 64 : 63 - (i * 3) % 64;
-            const int cy = (i / 7) % 64;
-            e.type = SDL_EVENT_MOUSE_MOTION;
-            e.motion.x = float(view.origin().x + cx * 8 + 4);
-            e.motion.y = float(view.origin().y + cy * 8 + 4);
-            e.motion.state = SDL_BUTTON_LMASK;
-        } else {
-            e.type = SDL_EVENT_MOUSE_BUTTON_UP;
-            e.button.button = SDL_BUTTON_LEFT;
-        }
-        SDL_PushEvent(&e);
-    }
-};
-
 void BM_pen_drag_64_px8(benchmark::State& state) {
     Program program;
     std::vector<double> per_event;
     for (auto _ : state) {
-        Drag drag;
-        Backdrop::set_base(&Drag::paint, &drag);
-        const SDL_Point p = g_editor->canvas().origin();
-        SDL_Event down{};
-        down.type = SDL_EVENT_MOUSE_BUTTON_DOWN;
-        down.button.button = SDL_BUTTON_LEFT;
-        down.button.x = float(p.x + 4);
-        down.button.y = float(p.y + 4);
-        g_editor->handle(down);
-        for (size_t i = 1; i < drag.stamps.size(); ++i)
-            per_event.push_back(double(drag.stamps[i] - drag.stamps[i - 1]) / 1e6);
+        const std::vector<double> times = drag_per_event_ms();
+        per_event.insert(per_event.end(), times.begin(), times.end());
         g_editor->undo().undo();
     }
-    Backdrop::set_base(nullptr, nullptr);
     std::sort(per_event.begin(), per_event.end());
     state.counters["median_ms_per_event"] = per_event.empty() ? 0 : per_event[per_event.size() / 2];
     state.counters["p95_ms_per_event"] = per_event.empty() ? 0 : per_event[per_event.size() * 95 / 100];
