@@ -75,6 +75,8 @@ void Canvas_View::set_tile(Tile* tile) {
     shown_w = tile ? tile->width() : 0;
     shown_h = tile ? tile->height() : 0;
     update_extent();
+    // An image carried to a smaller tile keeps only what fits there.
+    fit_float(float_x, float_y);
     if (new_size) {
         resize_masks();
         centre();
@@ -132,12 +134,43 @@ void Canvas_View::commit_float() {
     pending = false;
 }
 
+std::unique_ptr<Tile> Canvas_View::tile_as_shown() const {
+    const bool offset = seam_h >= 0 || seam_v >= 0;
+    if (!shown || (!(pending && floating) && !offset)) return nullptr;
+    auto copy = std::make_unique<Tile>(shown->width(), shown->height());
+    shown->copy_into(*copy);
+    if (pending && floating) floating::stamp_wrapped(*copy, *floating, float_x, float_y);
+    for (int i = 0; i < seam_h; ++i) offset_copy(*copy, 1, 0);
+    for (int i = 0; i < seam_v; ++i) offset_copy(*copy, 0, 1);
+    return copy;
+}
+
 void Canvas_View::paste(const Tile& image, int x, int y) {
     commit_float();
     floating = std::make_unique<Tile>(image.width(), image.height());
     image.copy_into(*floating);
     pending = true;
     move_float(x, y);
+    fit_float(x, y);
+}
+
+// An image larger than the tile would wrap onto itself and scramble: only
+// the part that lies over the tile is kept.
+void Canvas_View::fit_float(int x, int y) {
+    if (!pending || !floating || !shown) return;
+    const int w = floating->width();
+    const int h = floating->height();
+    if (w <= shown->width() && h <= shown->height()) return;
+    const int cut_w = std::min(w, shown->width());
+    const int cut_h = std::min(h, shown->height());
+    const int from_x = std::clamp(-x, 0, w - cut_w);
+    const int from_y = std::clamp(-y, 0, h - cut_h);
+    auto part = std::make_unique<Tile>(cut_w, cut_h);
+    for (int py = 0; py < cut_h; ++py)
+        for (int px = 0; px < cut_w; ++px) part->set_pixel(px, py, floating->get_pixel(from_x + px, from_y + py));
+    part->update_texture();
+    floating = std::move(part);
+    move_float(x + from_x, y + from_y);
 }
 
 void Canvas_View::replace_float(const Tile* image, int x, int y) {

@@ -63,6 +63,9 @@ public:
     // A pasted or moved image that is not yet part of the tile. It wraps:
     // what passes one edge of the tile shows (and is stamped) at the other.
     bool float_pending() const { return pending; }
+    // A copy of the tile as the user sees it drawn: with the floating image
+    // put down and without the seam offset. None when that is the tile itself.
+    std::unique_ptr<Tile> tile_as_shown() const;
     void commit_float();
     void paste(const Tile& image, int x = 0, int y = 0);
     // The pending floating image, or none, and its place on the tile.
@@ -100,6 +103,7 @@ private:
     void draw_edges(Main_Window& window, const Tile& m, int tx, int ty, int px, int py, bool active);
     void keep_pointer_on_tile(float x, float y);
     void frame_float(Main_Window& window);
+    void fit_float(int x, int y);
     void resize_masks();
     void update_extent();
 

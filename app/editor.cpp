@@ -267,9 +267,9 @@ void Editor::show_current_tile() {
 void Editor::run_command(int command) {
     const int result = execute(command);
     if (result < 0 || !open.current()) return;
-    // Commands without an inverse that change the tile record themselves.
-    undo_control->record_if_inverse(result);
-    if (commands::group(result) == group_tile_list) open.current()->set_modified();
+    // Commands without an inverse that change the tile record themselves, and
+    // so do the changes of the tile list, which hold what they changed.
+    if (commands::group(result) != group_tile_list) undo_control->record_if_inverse(result);
 }
 
 int Editor::canvas_action(int tool, int rectangle_type, int circle_type) {

@@ -1,6 +1,7 @@
 // The single dispatcher: every key, menu entry, tool button and strip click
 // ends here as a command number.
 #include <string>
+#include <vector>
 
 #include "app/brush_pad_pane.h"
 #include "app/canvas_view.h"
@@ -17,6 +18,7 @@
 #include "app/tool_options.h"
 #include "app/undo_control.h"
 #include "color/color_editor.h"
+#include "document/tile_list_undo_node.h"
 #include "document/transforms.h"
 #include "selection/editor/selection_tools.h"
 #include "ui/message_box.h"
@@ -212,31 +214,45 @@ int Editor::execute_tileset_command(int command) {
             return command;
         case command_add_new_tile:
             if (!store.add_tile()) return refuse(full_text);
-            return command;
+            return undo_control->record_list_change(TileListUndoNode::inserted(command, store.current_index(), store,
+                                                                               undo_control.get()));
+        // "Undo paste tile" inserts like "Insert new tile", but only beside another tile.
+        case command_undo_paste_tile:
+            if (store.tile_count() < 2) return refuse(nullptr);
+            [[fallthrough]];
         case command_insert_new_tile:
             if (!store.insert_tile()) return refuse(full_text);
-            return command;
+            return undo_control->record_list_change(TileListUndoNode::inserted(command, store.current_index(), store,
+                                                                               undo_control.get()));
         case command_delete_tile:
         case command_undo_delete_tile: {
             // The only tile is cleared instead; clearing an empty one changes nothing.
-            const Tile* only = store.tile_count() < 2 ? store.current_tile() : nullptr;
+            Tile* only = store.tile_count() < 2 ? store.current_tile() : nullptr;
             if (only && is_blank(*only))
                 return refuse("The only tile of a tileset is cleared, not deleted,\rand this one is empty already.");
-            store.delete_tile();
-            store.current_tile()->update_texture();
-            return command;
+            if (only) {
+                store.delete_tile();
+                only->update_texture();
+                return undo_control->record_list_change(
+                    TileListUndoNode::cleared(command, store, undo_control.get()));
+            }
+            const int place = store.current_index();
+            std::unique_ptr<Tile_Uses> uses;
+            std::unique_ptr<Tile> gone = store.remove_at(place, &uses);
+            return undo_control->record_list_change(TileListUndoNode::removed(
+                command, place, std::move(gone), std::move(uses), store, undo_control.get()));
         }
-        // Only ever run by undo, which restores the pixels anyway: no message.
-        case command_undo_paste_tile:
-            if (store.tile_count() < 2 || !store.insert_tile()) return refuse(nullptr);
-            return command;
         case command_map_editor: {
             const int outcome = edit_map(*t);
             return outcome < 0 ? refuse(nullptr) : outcome;
         }
         case command_arrange_select: {
-            const int outcome = arrange_tiles(*t);
-            return outcome < 0 ? refuse(nullptr) : outcome;
+            std::vector<int> order;
+            const int outcome = arrange_tiles(*t, order);
+            if (outcome != command_arrange_select) return outcome < 0 ? refuse(nullptr) : outcome;
+            // The swaps are one step to undo, and the history before them stays.
+            return undo_control->record_list_change(
+                TileListUndoNode::reordered(command, std::move(order), store, undo_control.get()));
         }
         // A view only: nothing to record.
         case command_view_tile_array:

@@ -2,6 +2,7 @@
 #include <SDL3/SDL.h>
 
 #include <memory>
+#include <string>
 
 #include "app/canvas_view.h"
 #include "app/editor.h"
@@ -22,8 +23,18 @@ void Editor::new_from_dialog() {
     if (!answer.confirmed) return;
     if (answer.mode == Prompt_Dialogs::mode_keep_and_resize) {
         if (!open.current()) return;
-        open.current()->resize_tiles(uint32_t(answer.width), uint32_t(answer.height));
+        Tileset& t = *open.current();
+        const int left_out = t.resize_tiles(uint32_t(answer.width), uint32_t(answer.height));
         show_current_tile();
+        if (left_out > 0) {
+            const Tile_Map& map = t.map().map();
+            const std::string text = "The map now has " + std::to_string(map.columns()) + " x " +
+                                     std::to_string(map.rows()) + " cells for the new tile size; " +
+                                     std::to_string(left_out) +
+                                     " placed cells beyond them were left out.\rThe map file keeps them until you "
+                                     "agree to replace it.";
+            g_message_box->note(text.c_str());
+        }
     } else if (!open.new_tileset(uint32_t(answer.width), uint32_t(answer.height))) {
         return;
     }
@@ -47,13 +58,16 @@ void Editor::save(bool save_as) {
             !g_message_box->ask("Save", "Save over existing file?"))
             return;
     }
-    if (Tileset_File::write(t->store(), t->path().full) < 0) {
+    // What the user sees is saved: a floating image is put down into the
+    // saved copy of its tile (the tile itself keeps it floating).
+    const std::unique_ptr<Tile> shown = canvas_view->tile_as_shown();
+    if (Tileset_File::write(t->store(), t->path().full, shown.get()) < 0) {
         g_message_box->show_message("Error", Tileset_File::save_error_text);
         return;
     }
-    // The tileset is saved even when its map is not: the user was told.
-    save_map(*t);
-    t->clear_modified();
+    // The tileset file is written even when its map is not (the user was told
+    // or said no); the map's edits keep the tileset marked modified then.
+    if (save_map(*t)) t->clear_modified();
 }
 
 void Editor::load() {
@@ -77,5 +91,5 @@ void Editor::export_bmp() {
     if (!show_export_preview(sheet)) return;
     File_Path chosen = t->path();
     if (!choose_file(file_save_bmp, chosen)) return;
-    if (!SDL_SaveBMP(sheet.surface(), chosen.full.c_str())) g_message_box->note("Could not save the file.");
+    if (!sheet.save_bmp(chosen.full, true)) g_message_box->note("Could not save the file.");
 }

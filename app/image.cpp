@@ -4,6 +4,7 @@
 #include <cstdlib>
 
 #include "app/fatal.h"
+#include "document/safe_file.h"
 
 namespace {
 
@@ -95,4 +96,20 @@ void Image::blit(const Rectangle& source, Image& target, int x, int y) const {
     const SDL_Rect from{source.x, source.y, source.width, source.height};
     SDL_Rect to{x, y, source.width, source.height};
     SDL_BlitSurface(pixels, &from, target.pixels, &to);
+}
+
+bool Image::save_bmp(const std::string& path, bool user_chose_path) const {
+    SDL_IOStream* memory = SDL_IOFromDynamicMem();
+    if (!memory) return false;
+    bool ok = SDL_SaveBMP_IO(pixels, memory, false);
+    const Sint64 size = ok ? SDL_TellIO(memory) : -1;
+    const void* bytes =
+        SDL_GetPointerProperty(SDL_GetIOProperties(memory), SDL_PROP_IOSTREAM_DYNAMIC_MEMORY_POINTER, nullptr);
+    ok = ok && size > 0 && bytes &&
+         safe_file::written(
+             path,
+             [&](std::FILE* file) { return std::fwrite(bytes, 1, size_t(size), file) == size_t(size); },
+             user_chose_path ? safe_file::Links::follow : safe_file::Links::refuse);
+    SDL_CloseIO(memory);
+    return ok;
 }

@@ -3,6 +3,7 @@
 #include <SDL3/SDL.h>
 
 #include <cstdint>
+#include <string>
 
 #include "ui/rectangle.h"
 
@@ -35,6 +36,10 @@ public:
     void set_colour_key(uint8_t r, uint8_t g, uint8_t b);
     void fill(const Rectangle& rect, Rgba c);
     void blit(const Rectangle& source, Image& target, int x, int y) const;
+
+    // Writes the image as a BMP file through the safe writer; false when
+    // anything failed (the previous file, if any, stays as it was).
+    bool save_bmp(const std::string& path, bool user_chose_path) const;
 
     uint32_t width() const { return w; }
     uint32_t height() const { return h; }

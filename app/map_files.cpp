@@ -7,6 +7,7 @@
 #include <string>
 
 #include "app/image.h"
+#include "document/safe_file.h"
 #include "document/tileset.h"
 #include "mapeditor/map_file.h"
 #include "ui/message_box.h"
@@ -34,35 +35,53 @@ void compose_sheet(const Tile_Store& store, Image& sheet) {
     }
 }
 
+namespace {
+bool ask_to_replace(const std::string& path, bool foreign) {
+    const std::string question =
+        foreign ? "Replace the map file " + file_name(path) + "?\rIt holds a map this tileset did not read whole."
+                : "Replace the map file " + file_name(path) +
+                      "?\rAnother program changed it since this tileset read or wrote it.";
+    return g_message_box->ask("Save map", question.c_str());
+}
+}  // namespace
+
 bool save_map(Tileset& tileset) {
     Map_Editor& map = tileset.map();
     const std::string path = Map_File::map_path(tileset.path().full);
+    const std::string sheet_path = Map_File::sheet_path(tileset.path().full);
     std::error_code error;
-    if (map.map().is_blank()) {
-        // A map the user emptied must not come back from the file it was read
-        // from or written to; any other file of that name is left alone.
-        if (map.own_file == path) {
-            std::filesystem::remove(path, error);
-            map.own_file.clear();
-        }
+    const bool exists = std::filesystem::exists(std::filesystem::symlink_status(path, error));
+    const bool own = map.own_file == path;
+    // Nothing to keep, and no file of the user's is touched: a blank map
+    // writes nothing, and no map file is ever removed.
+    if (map.map().is_blank() && !own) {
+        map.mark_saved();
         return true;
     }
-    if (map.own_file != path && std::filesystem::exists(path, error)) {
-        const std::string question = "Replace the map file " + file_name(path) +
-                                     "?\rIt holds a map this tileset did not read whole.";
-        if (!g_message_box->ask("Save map", question.c_str())) return true;
-    }
+    const bool changed_on_disk = own && exists && safe_file::stamp_of(path) != map.file_stamp;
+    if (exists && (!own || changed_on_disk) && !ask_to_replace(path, !own)) return false;
+    // What another program keeps in the file stays; only the tile layer is ours.
+    const std::string source = exists ? Map_File::text_of(path) : std::string();
+    const std::string sheet = file_name(sheet_path);
+    const bool sheet_wanted = source.empty() || Map_File::uses_sheet(source, sheet);
     const Tile_Store& store = tileset.store();
-    Image sheet(16 * store.tile_width(), 16 * store.tile_height());
-    compose_sheet(store, sheet);
-    const std::string sheet_path = Map_File::sheet_path(tileset.path().full);
-    if (!SDL_SaveBMP(sheet.surface(), sheet_path.c_str()) ||
-        !Map_File::write(map.map(), store.tile_width(), store.tile_height(), path)) {
+    bool written = true;
+    if (sheet_wanted) {
+        Image image(16 * store.tile_width(), 16 * store.tile_height());
+        compose_sheet(store, image);
+        written = image.save_bmp(sheet_path, false);
+    }
+    const bool map_needed = !own || !map.is_saved() || changed_on_disk || !exists;
+    if (written && map_needed)
+        written = Map_File::write(map.map(), store.tile_width(), store.tile_height(), path, source);
+    if (!written) {
         const std::string text = "Could not save the map beside the tileset as " + file_name(path) + ".";
         g_message_box->show_message("Error", text.c_str());
         return false;
     }
     map.own_file = path;
+    map.file_stamp = safe_file::stamp_of(path);
+    map.mark_saved();
     return true;
 }
 
@@ -71,9 +90,11 @@ void load_map(Tileset& tileset) {
     const Tile_Store& store = tileset.store();
     const Map_File::Reading reading =
         Map_File::read(path, tileset.map(), store.tile_width(), store.tile_height(), store.tile_count());
+    tileset.map().mark_saved();
     if (!reading.found) return;
     if (reading.whole) {
         tileset.map().own_file = path;
+        tileset.map().file_stamp = safe_file::stamp_of(path);
         return;
     }
     // Kept as it is: saving asks before replacing it.

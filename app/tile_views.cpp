@@ -1,5 +1,7 @@
 #include "app/tile_views.h"
 
+#include <algorithm>
+
 #include "app/commands.h"
 #include "color/arrange_dialog.h"
 #include "document/tileset.h"
@@ -27,14 +29,17 @@ int view_in_real_size(Tileset& tileset) {
     return chose(tileset);
 }
 
-int arrange_tiles(Tileset& tileset) {
+int arrange_tiles(Tileset& tileset, std::vector<int>& order) {
     Tile_Store& store = tileset.store();
     const int before = store.current_index();
+    std::vector<const Tile*> was;
+    for (const auto& tile : store.all()) was.push_back(tile.get());
     Arrange_Dialog dialog(Arrange_Dialog::default_columns, Arrange_Dialog::default_rows,
                           Arrange_Dialog::default_cell, Arrange_Dialog::default_cell, store);
     if (dialog.run()) {
-        // The records name tiles by their place, which the swaps changed.
-        tileset.history().restart(store);
+        order.clear();
+        for (const auto& tile : store.all())
+            order.push_back(int(std::find(was.begin(), was.end(), tile.get()) - was.begin()));
         tileset.strip().make_current_visible();
         return command_arrange_select;
     }

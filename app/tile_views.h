@@ -1,5 +1,7 @@
 #pragma once
 
+#include <vector>
+
 class Tileset;
 
 // The tileset's views that may change which tile is current or where tiles
@@ -8,10 +10,10 @@ class Tileset;
 
 // "View in real size": "Select tile" when another tile was chosen in it.
 int view_in_real_size(Tileset& tileset);
-// "Arrange/Select": the command itself when tiles were swapped (the undo
-// history then starts again from the current tile), "Select tile" when
-// only another tile was made current.
-int arrange_tiles(Tileset& tileset);
+// "Arrange/Select": the command itself when tiles were swapped, with order[i]
+// the place the tile now at i stood before (for its undo record), "Select
+// tile" when only another tile was made current.
+int arrange_tiles(Tileset& tileset, std::vector<int>& order);
 // "Map editor": "Select tile" when a tile was chosen or picked in it that
 // is not the current one; an edited map marks the tileset modified.
 int edit_map(Tileset& tileset);

@@ -4,6 +4,7 @@
 #include "app/commands.h"
 #include "app/editor.h"
 #include "app/tool_options.h"
+#include "document/tile_list_undo_node.h"
 #include "document/tileset.h"
 #include "selection/editor/selection_tools.h"
 #include "viewers/undo_history_viewer.h"
@@ -28,6 +29,15 @@ bool Undo_Control::record_if_inverse(int command) {
     const bool image = t->history().record_if_inverse(command, t->store(), this);
     if (image) t->set_modified();
     return image;
+}
+
+int Undo_Control::record_list_change(std::unique_ptr<TileListUndoNode> record) {
+    Tileset* t = editor.current();
+    if (!t || !record) return -1;
+    const int command = record->undo_command();
+    t->history().push(std::move(record));
+    t->set_modified();
+    return command;
 }
 
 namespace {

@@ -5,6 +5,7 @@
 #include "document/undo_target.h"
 
 class Editor;
+class TileListUndoNode;
 class Tileset;
 class Undo_Meter;
 
@@ -24,6 +25,9 @@ public:
     // history; an image change marks the tileset modified.
     bool record(int command);
     bool record_if_inverse(int command);
+    // A change of the tile list, recorded by the command that made it; the
+    // tileset is marked modified. Returns the record's command.
+    int record_list_change(std::unique_ptr<TileListUndoNode> record);
     bool undo();
     bool redo();
     void view();

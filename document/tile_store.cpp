@@ -70,13 +70,45 @@ bool Tile_Store::delete_tile() {
         if (!tiles.empty()) tiles.front()->fill(Color(0, 0, 0, 0));
         return false;
     }
-    current = tiles.erase(current);
-    if (list_watcher) list_watcher->tile_removed(index);
-    if (current == tiles.end()) {
-        --current;
-        --index;
+    remove_at(index);
+    return true;
+}
+
+bool Tile_Store::insert_at(int target, std::unique_ptr<Tile> tile, const Tile_Uses* uses) {
+    if (!tile || target < 0 || target > tile_count() || tile->width() != int(width) || tile->height() != int(height))
+        return false;
+    current = tiles.insert(std::next(tiles.begin(), target), std::move(tile));
+    index = target;
+    if (list_watcher) {
+        list_watcher->tile_inserted(index);
+        if (uses) list_watcher->tile_returned(index, *uses);
     }
     return true;
+}
+
+std::unique_ptr<Tile> Tile_Store::remove_at(int target, std::unique_ptr<Tile_Uses>* uses) {
+    if (target < 0 || target >= tile_count()) return nullptr;
+    auto place = std::next(tiles.begin(), target);
+    std::unique_ptr<Tile_Uses> left = list_watcher ? list_watcher->tile_leaving(target) : nullptr;
+    if (uses) *uses = std::move(left);
+    std::unique_ptr<Tile> removed = std::move(*place);
+    const bool was_current = place == current;
+    auto after = tiles.erase(place);
+    if (list_watcher) list_watcher->tile_removed(target);
+    if (was_current) {
+        current = after;
+        if (current == tiles.end() && !tiles.empty()) {
+            --current;
+            --index;
+        }
+    } else if (target < index) {
+        --index;
+    }
+    if (tiles.empty()) {
+        current = tiles.end();
+        index = 0;
+    }
+    return removed;
 }
 
 bool Tile_Store::swap_tiles(int a, int b) {

@@ -6,6 +6,13 @@
 
 #include "document/tile.h"
 
+// Whatever named one tile elsewhere (the map's cells) when the tile left the
+// list: kept by the undo record so that the tile comes back with its uses.
+class Tile_Uses {
+public:
+    virtual ~Tile_Uses() = default;
+};
+
 // Told of every change to the order of a store's tiles, so that whatever
 // names tiles by their place (the tileset's map) can follow.
 class Tile_List_Watcher {
@@ -16,6 +23,11 @@ public:
     // The tile at the index is gone; the ones after it moved one down.
     virtual void tile_removed(int index) = 0;
     virtual void tiles_swapped(int a, int b) = 0;
+    // Just before the tile at the index is removed for good or for an undo:
+    // what names it, to be handed back if the tile returns.
+    virtual std::unique_ptr<Tile_Uses> tile_leaving(int) { return nullptr; }
+    // A tile that left came back at the index (tile_inserted was told first).
+    virtual void tile_returned(int, const Tile_Uses&) {}
 };
 
 // The ordered tiles of one tileset with a current position. All tiles have the
@@ -44,6 +56,15 @@ public:
     // With fewer than two tiles the only tile is cleared instead and the
     // result is false.
     bool delete_tile();
+
+    // A tile of the store's size put at the index (0 to count) and made
+    // current; the uses it had when it left come back with it. False when the
+    // index is outside or the tile has another size.
+    bool insert_at(int target, std::unique_ptr<Tile> tile, const Tile_Uses* uses = nullptr);
+    // Takes the tile at the index out of the list; the current place moves as
+    // delete_tile moves it. What named the tile is handed to uses when given.
+    // None for an index outside the list.
+    std::unique_ptr<Tile> remove_at(int target, std::unique_ptr<Tile_Uses>* uses = nullptr);
 
     // Exchanges the tiles at the two places; the current place stays, so the
     // current tile is whichever now stands there. False, changing nothing, for

@@ -34,12 +34,20 @@ Tileset::Tileset(const std::string& path, std::unique_ptr<Tile_Store> tiles)
 
 Tileset::~Tileset() { tile_store->watch(nullptr); }
 
-// A new map still answers for the map file beside the tileset.
-void Tileset::make_map() {
-    const std::string own_file = map_editor ? map_editor->own_file : std::string();
+// A map made for a new tile size keeps the cells of the old one that fit.
+// It still answers for the map file beside the tileset, unless cells were
+// left out: then that file keeps them until the user agrees to replace it.
+int Tileset::make_map() {
+    std::unique_ptr<Map_Editor> old = std::move(map_editor);
     map_editor = std::make_unique<Map_Editor>(tile_store->tile_width(), tile_store->tile_height());
-    map_editor->own_file = own_file;
+    int left_out = 0;
+    if (old) {
+        left_out = map_editor->take_cells(old->map());
+        if (left_out == 0) map_editor->own_file = old->own_file;
+        map_editor->file_stamp = old->file_stamp;
+    }
     tile_store->watch(map_editor.get());
+    return left_out;
 }
 
 void Tileset::set_modified() {
@@ -61,10 +69,10 @@ void Tileset::set_path(const std::string& path) {
 
 std::string Tileset::display_name() const { return modified ? file_path.name + "*" : file_path.name; }
 
-void Tileset::resize_tiles(uint32_t width, uint32_t height) {
+int Tileset::resize_tiles(uint32_t width, uint32_t height) {
     tile_store->resize(width, height);
-    make_map();
     undo_history.clear();
+    return make_map();
 }
 
 std::string Tileset::statistics_text() const {

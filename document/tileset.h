@@ -60,7 +60,9 @@ public:
     // The file name, with "*" while modified.
     std::string display_name() const;
 
-    void resize_tiles(uint32_t width, uint32_t height);
+    // The map is made again for the new size with the cells that fit; the
+    // number of placed cells left out is returned.
+    int resize_tiles(uint32_t width, uint32_t height);
     std::string statistics_text() const;
 
     // Called whenever the display name changes; the open-tileset list connects
@@ -82,7 +84,7 @@ private:
     std::unique_ptr<Tileset_Navigation> navigation_pane;
     // It watches the store's tile list, so its cells follow the tiles.
     std::unique_ptr<Map_Editor> map_editor;
-    void make_map();
+    int make_map();
     // Joining as its own part is built, owned here:
     //   the title text object showing display_name().
 };

@@ -4,16 +4,11 @@
 #include <cerrno>
 #include <cstdio>
 #include <cstring>
-#include <filesystem>
-#include <system_error>
 #include <vector>
 
-#include <unistd.h>
-
 #include "app/data_file.h"
+#include "document/safe_file.h"
 #include "document/tileset.h"
-
-namespace fs = std::filesystem;
 
 namespace {
 
@@ -62,36 +57,7 @@ void to_memory_order(Color* pixels, size_t count) {
     for (; i < count; ++i) pixels[i] = Color::from_word(std::rotr(pixels[i].word(), 8));
 }
 
-// The file that is really written: a symbolic link is followed so that saving
-// replaces what it points at, not the link.
-fs::path real_target(const std::string& path) {
-    std::error_code error;
-    fs::path target = fs::canonical(path, error);
-    return error ? fs::path(path) : target;
-}
-
-// An existing file that cannot be opened for writing refuses the save, as
-// overwriting it in place would.
-bool existing_file_writable(const fs::path& target) {
-    std::error_code error;
-    if (!fs::exists(target, error)) return true;
-    std::FILE* probe = std::fopen(target.c_str(), "r+b");
-    if (!probe) return false;
-    std::fclose(probe);
-    return true;
-}
-
-std::FILE* create_temporary(const fs::path& target, fs::path& temporary) {
-    for (int attempt = 0; attempt < 100; ++attempt) {
-        temporary = target;
-        temporary += ".saving" + std::to_string(attempt);
-        if (std::FILE* file = std::fopen(temporary.c_str(), "wbx")) return file;
-        if (errno != EEXIST) return nullptr;
-    }
-    return nullptr;
-}
-
-bool write_contents(std::FILE* file, const Tile_Store& store) {
+bool write_contents(std::FILE* file, const Tile_Store& store, const Tile* current) {
     const uint32_t count = static_cast<uint32_t>(store.tile_count());
     const unsigned char header[Tileset_File::header_size] = {
         'W', 'S', 'T', 0x0A, 0x00,
@@ -100,36 +66,25 @@ bool write_contents(std::FILE* file, const Tile_Store& store) {
         static_cast<unsigned char>(count >> 16), static_cast<unsigned char>(count >> 24)};
     if (std::fwrite(header, sizeof header, 1, file) != 1) return false;
     std::vector<unsigned char> record;
-    for (const auto& tile : store.all()) {
+    int index = 0;
+    for (const auto& stored : store.all()) {
+        const Tile* tile = index++ == store.current_index() && current ? current : stored.get();
         const size_t pixels = static_cast<size_t>(tile->pixel_count());
         if (pixels == 0) continue;
         record.resize(pixels * 4);
         to_file_order(tile->pixels(), record.data(), pixels);
         if (std::fwrite(record.data(), pixels * 4, 1, file) != 1) return false;
     }
-    return std::fflush(file) == 0 && fsync(fileno(file)) == 0;
+    return true;
 }
 
 }  // namespace
 
-int32_t Tileset_File::write(const Tile_Store& store, const std::string& path) {
-    const fs::path target = real_target(path);
-    if (!existing_file_writable(target)) return -1;
-    fs::path temporary;
-    std::FILE* file = create_temporary(target, temporary);
-    if (!file) return -1;
-    const bool written = write_contents(file, store);
-    const bool closed = std::fclose(file) == 0;
-    std::error_code error;
-    if (written && closed) {
-        const fs::perms old_permissions = fs::status(target, error).permissions();
-        if (!error) fs::permissions(temporary, old_permissions, error);
-        error.clear();
-        fs::rename(temporary, target, error);
-        if (!error) return static_cast<int32_t>(header_size + store.total_bytes());
-    }
-    fs::remove(temporary, error);
-    return -1;
+int32_t Tileset_File::write(const Tile_Store& store, const std::string& path, const Tile* current) {
+    // The user chose the path: a link there is followed, the link kept.
+    const bool ok = safe_file::written(
+        path, [&](std::FILE* file) { return write_contents(file, store, current); }, safe_file::Links::follow);
+    return ok ? static_cast<int32_t>(header_size + store.total_bytes()) : -1;
 }
 
 std::unique_ptr<Tile_Store> Tileset_File::read(const std::string& path) {

@@ -19,8 +19,10 @@ public:
         "properties.";
 
     // Returns the bytes written, or -1 when the file could not be written; a
-    // failed write leaves any previous file at the path as it was.
-    static int32_t write(const Tile_Store& store, const std::string& path);
+    // failed write leaves any previous file at the path as it was. A current
+    // tile given is written in place of the store's current tile (the tile as
+    // the user sees it, with a floating image put down).
+    static int32_t write(const Tile_Store& store, const std::string& path, const Tile* current = nullptr);
 
     // The tiles of the file, or none when it cannot be opened, does not start
     // with "WST", or has a zero tile width, height or count; the caller shows

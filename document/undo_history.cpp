@@ -1,6 +1,7 @@
 #include "document/undo_history.h"
 
 #include "app/commands.h"
+#include "document/tile_list_undo_node.h"
 #include "document/tile_store.h"
 #include "document/undo_target.h"
 
@@ -67,8 +68,12 @@ void Undo_History::push(std::unique_ptr<Undo_Node> record) {
 
 bool Undo_History::undo(Tile_Store& store, Undo_Target& target) {
     if (current <= 0) return false;
-    const int command = records[size_t(current)]->undo_command();
-    if (command >= 0) target.run_command(command);
+    const Undo_Node& shown = *records[size_t(current)];
+    // A change of the tile list is taken back from what its record holds.
+    if (const auto* list = dynamic_cast<const TileListUndoNode*>(&shown))
+        list->revert(store);
+    else if (shown.undo_command() >= 0)
+        target.run_command(shown.undo_command());
     --current;
     records[size_t(current)]->apply(store, target);
     return true;
@@ -77,8 +82,11 @@ bool Undo_History::undo(Tile_Store& store, Undo_Target& target) {
 bool Undo_History::redo(Tile_Store& store, Undo_Target& target) {
     if (current < 0 || current + 1 >= count()) return false;
     ++current;
-    const int command = records[size_t(current)]->redo_command();
-    if (command >= 0) target.run_command(command);
+    const Undo_Node& next = *records[size_t(current)];
+    if (const auto* list = dynamic_cast<const TileListUndoNode*>(&next))
+        list->reapply(store);
+    else if (next.redo_command() >= 0)
+        target.run_command(next.redo_command());
     records[size_t(current)]->apply(store, target);
     return true;
 }

@@ -29,6 +29,8 @@ public:
     bool record(int command, Tile_Store& store, const Undo_Target* target);
     // record, only for a command that has an inverse; false otherwise.
     bool record_if_inverse(int command, Tile_Store& store, const Undo_Target* target);
+    // A record made by its command itself (a change of the tile list).
+    void push(std::unique_ptr<Undo_Node> record);
     // The first record of a tileset: its current tile, no mask.
     void start(Tile_Store& store);
     void restart(Tile_Store& store);
@@ -44,8 +46,6 @@ public:
     const Undo_Node& at(int index) const { return *records[size_t(index)]; }
 
 private:
-    void push(std::unique_ptr<Undo_Node> record);
-
     int32_t maximum;
     int current = -1;
     std::vector<std::unique_ptr<Undo_Node>> records;

@@ -5,6 +5,12 @@
 #include "document/line_walk.h"
 
 namespace {
+// The cells that held a tile when it left, and the mark its history entries got.
+struct Map_Uses : Tile_Uses {
+    std::vector<int> cells;
+    int mark = 0;
+};
+
 int cells_for(uint32_t tile_extent) { return Map_Editor::extent / int(tile_extent == 0 ? 1 : tile_extent); }
 }  // namespace
 
@@ -83,6 +89,21 @@ bool Map_Editor::redo() {
     return true;
 }
 
+int Map_Editor::take_cells(const Tile_Map& other) {
+    int left_out = 0;
+    for (int y = 0; y < other.rows(); ++y)
+        for (int x = 0; x < other.columns(); ++x) {
+            const int tile = other.at(x, y);
+            if (tile == Tile_Map::empty) continue;
+            if (cells.is_outside(x, y))
+                ++left_out;
+            else
+                cells.set(x, y, tile);
+        }
+    ++changes;
+    return left_out;
+}
+
 void Map_Editor::place(int x, int y, int tile) {
     cells.set(x, y, tile);
     ++changes;
@@ -106,5 +127,25 @@ void Map_Editor::tiles_swapped(int a, int b) {
     end_stroke();
     cells.tiles_swapped(a, b);
     steps.tiles_swapped(a, b);
+    ++changes;
+}
+
+std::unique_ptr<Tile_Uses> Map_Editor::tile_leaving(int index) {
+    end_stroke();
+    auto uses = std::make_unique<Map_Uses>();
+    for (int c = 0; c < cells.cell_count(); ++c)
+        if (cells.at(c) == index) uses->cells.push_back(c);
+    uses->mark = next_mark--;
+    steps.leaving(index, uses->mark);
+    return uses;
+}
+
+// Cells the user filled again while the tile was away keep what they hold.
+void Map_Editor::tile_returned(int index, const Tile_Uses& uses) {
+    const auto* map_uses = dynamic_cast<const Map_Uses*>(&uses);
+    if (!map_uses) return;
+    for (const int c : map_uses->cells)
+        if (c < cells.cell_count() && cells.at(c) == Tile_Map::empty) cells.set(c, index);
+    steps.returned(map_uses->mark, index);
     ++changes;
 }

@@ -1,8 +1,10 @@
 #pragma once
 
 #include <cstdint>
+#include <memory>
 #include <string>
 
+#include "document/safe_file.h"
 #include "document/tile_store.h"
 #include "mapeditor/map_history.h"
 #include "mapeditor/tile_map.h"
@@ -36,6 +38,9 @@ public:
     bool undo();
     bool redo();
 
+    // The cells of another map, where they fit, placed without history; the
+    // number of placed cells that did not fit.
+    int take_cells(const Tile_Map& other);
     // Cells placed in one go, as reading a map file does: no history.
     void place(int x, int y, int tile);
     void clear_history() { steps.clear(); }
@@ -43,10 +48,18 @@ public:
     void tile_inserted(int index) override;
     void tile_removed(int index) override;
     void tiles_swapped(int a, int b) override;
+    std::unique_ptr<Tile_Uses> tile_leaving(int index) override;
+    void tile_returned(int index, const Tile_Uses& uses) override;
 
     // The map file this map was read whole from or last written to; saving
-    // may replace that one without asking.
+    // may replace that one without asking while it is as it was then
+    // (file_stamp).
     std::string own_file;
+    safe_file::Stamp file_stamp;
+    // The generation last read or written: the map is unsaved while it differs.
+    uint64_t saved_generation = 0;
+    bool is_saved() const { return saved_generation == changes; }
+    void mark_saved() { saved_generation = changes; }
 
 private:
     void set_cell(int cell, int tile);
@@ -56,4 +69,5 @@ private:
     Map_Edit open_edit;
     bool stroking = false;
     uint64_t changes = 0;
+    int next_mark = Map_History::first_mark;
 };

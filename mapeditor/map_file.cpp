@@ -2,21 +2,26 @@
 
 #include <tinyxml2.h>
 
+#include <algorithm>
 #include <cstdio>
 #include <filesystem>
 #include <string>
 
+#include "document/safe_file.h"
 #include "mapeditor/map_editor.h"
 
 namespace {
 // Tiled keeps flip and rotation flags in a cell's top bits.
 constexpr uint32_t flag_bits = 0xF0000000u;
 
+// The whole file name minus its extension (after the last dot), so that
+// "level.1.wst" and "level.2.wst" keep maps of their own.
 std::string beside(const std::string& tileset_path, const char* extension) {
     const size_t separator = tileset_path.find_last_of("/\\");
     const size_t start = separator == std::string::npos ? 0 : separator + 1;
-    const size_t dot = tileset_path.find('.', start);
-    return tileset_path.substr(0, dot == std::string::npos ? tileset_path.size() : dot) + extension;
+    const size_t dot = tileset_path.rfind('.');
+    const bool has_extension = dot != std::string::npos && dot > start;
+    return tileset_path.substr(0, has_extension ? dot : tileset_path.size()) + extension;
 }
 
 std::string file_name(const std::string& path) {
@@ -70,63 +75,160 @@ int attribute(const tinyxml2::XMLElement* e, const char* name, int fallback) {
 std::string Map_File::map_path(const std::string& tileset_path) { return beside(tileset_path, ".tmx"); }
 std::string Map_File::sheet_path(const std::string& tileset_path) { return beside(tileset_path, ".bmp"); }
 
-bool Map_File::write(const Tile_Map& map, uint32_t tile_width, uint32_t tile_height, const std::string& path) {
-    using namespace tinyxml2;
-    XMLDocument doc;
+namespace {
+using namespace tinyxml2;
+
+// The map's first tile layer: the one this editor reads and writes.
+XMLElement* tile_layer(XMLElement* root) { return root->FirstChildElement("layer"); }
+
+// A new map with the tileset drawn from the sheet beside it.
+XMLElement* new_map(XMLDocument& doc, const std::string& sheet, uint32_t tile_width, uint32_t tile_height) {
     doc.InsertEndChild(doc.NewDeclaration("xml version=\"1.0\" encoding=\"UTF-8\""));
     XMLElement* root = doc.NewElement("map");
     doc.InsertEndChild(root);
     root->SetAttribute("version", "1.10");
+    root->SetAttribute("tiledversion", Map_File::tiled_version);
     root->SetAttribute("orientation", "orthogonal");
     root->SetAttribute("renderorder", "right-down");
-    root->SetAttribute("width", map.columns());
-    root->SetAttribute("height", map.rows());
+    root->SetAttribute("width", 0);
+    root->SetAttribute("height", 0);
     root->SetAttribute("tilewidth", tile_width);
     root->SetAttribute("tileheight", tile_height);
     root->SetAttribute("infinite", 0);
-    root->SetAttribute("nextlayerid", 2);
+    root->SetAttribute("nextlayerid", 1);
     root->SetAttribute("nextobjectid", 1);
-
-    const std::string sheet = file_name(sheet_path(path));
     XMLElement* tileset = root->InsertNewChildElement("tileset");
     tileset->SetAttribute("firstgid", 1);
     tileset->SetAttribute("name", sheet.substr(0, sheet.size() - 4).c_str());
     tileset->SetAttribute("tilewidth", tile_width);
     tileset->SetAttribute("tileheight", tile_height);
-    tileset->SetAttribute("tilecount", sheet_columns * sheet_rows);
-    tileset->SetAttribute("columns", sheet_columns);
+    tileset->SetAttribute("tilecount", Map_File::sheet_columns * Map_File::sheet_rows);
+    tileset->SetAttribute("columns", Map_File::sheet_columns);
     XMLElement* image = tileset->InsertNewChildElement("image");
     image->SetAttribute("source", sheet.c_str());
-    image->SetAttribute("width", uint32_t(sheet_columns) * tile_width);
-    image->SetAttribute("height", uint32_t(sheet_rows) * tile_height);
+    image->SetAttribute("width", uint32_t(Map_File::sheet_columns) * tile_width);
+    image->SetAttribute("height", uint32_t(Map_File::sheet_rows) * tile_height);
+    return root;
+}
 
-    XMLElement* layer = root->InsertNewChildElement("layer");
-    layer->SetAttribute("id", 1);
+// A tile layer added after the last layer or tileset, with the map's next id.
+XMLElement* add_tile_layer(XMLElement* root) {
+    int id = 1;
+    root->QueryIntAttribute("nextlayerid", &id);
+    XMLElement* layer = root->GetDocument()->NewElement("layer");
+    XMLElement* after = nullptr;
+    for (XMLElement* e = root->FirstChildElement(); e; e = e->NextSiblingElement()) after = e;
+    if (after)
+        root->InsertAfterChild(after, layer);
+    else
+        root->InsertEndChild(layer);
+    layer->SetAttribute("id", id);
     layer->SetAttribute("name", "Tiles");
-    layer->SetAttribute("width", map.columns());
-    layer->SetAttribute("height", map.rows());
-    XMLElement* data = layer->InsertNewChildElement("data");
+    root->SetAttribute("nextlayerid", id + 1);
+    return layer;
+}
+
+// The area the layer must cover: its own, grown to hold every placed cell.
+void layer_size(const XMLElement* layer, const Tile_Map& map, int& columns, int& rows) {
+    columns = 0;
+    rows = 0;
+    if (layer) {
+        layer->QueryIntAttribute("width", &columns);
+        layer->QueryIntAttribute("height", &rows);
+    }
+    if (columns <= 0 || rows <= 0 || columns > map.columns() * 64 || rows > map.rows() * 64) {
+        columns = map.columns();
+        rows = map.rows();
+        return;
+    }
+    for (int y = 0; y < map.rows(); ++y)
+        for (int x = 0; x < map.columns(); ++x)
+            if (map.at(x, y) != Tile_Map::empty && (x >= columns || y >= rows)) {
+                columns = std::max(columns, map.columns());
+                rows = std::max(rows, map.rows());
+                return;
+            }
+}
+}  // namespace
+
+bool Map_File::write(const Tile_Map& map, uint32_t tile_width, uint32_t tile_height, const std::string& path,
+                     const std::string& source) {
+    XMLDocument doc(true, PRESERVE_WHITESPACE);
+    XMLElement* root = nullptr;
+    if (!source.empty() && doc.Parse(source.c_str(), source.size()) == XML_SUCCESS && doc.RootElement() &&
+        std::string(doc.RootElement()->Name()) == "map") {
+        root = doc.RootElement();
+    } else {
+        doc.Clear();
+        root = new_map(doc, file_name(sheet_path(path)), tile_width, tile_height);
+    }
+    // A loader of one game engine refuses maps without it.
+    if (!root->Attribute("tiledversion")) root->SetAttribute("tiledversion", tiled_version);
+    XMLElement* layer = tile_layer(root);
+    int columns = 0;
+    int rows = 0;
+    layer_size(layer, map, columns, rows);
+    if (!layer) layer = add_tile_layer(root);
+    layer->SetAttribute("width", columns);
+    layer->SetAttribute("height", rows);
+    int map_columns = 0;
+    int map_rows = 0;
+    root->QueryIntAttribute("width", &map_columns);
+    root->QueryIntAttribute("height", &map_rows);
+    root->SetAttribute("width", std::max(map_columns, columns));
+    root->SetAttribute("height", std::max(map_rows, rows));
+    // Written as a map of a fixed size: its cells are all in the one layer now.
+    if (root->Attribute("infinite")) root->SetAttribute("infinite", 0);
+    const XMLElement* first_tileset = root->FirstChildElement("tileset");
+    int first_gid = 1;
+    if (first_tileset) first_tileset->QueryIntAttribute("firstgid", &first_gid);
+
+    XMLElement* data = layer->FirstChildElement("data");
+    if (data)
+        data->DeleteChildren();
+    else
+        data = layer->InsertNewChildElement("data");
+    data->DeleteAttribute("compression");
     data->SetAttribute("encoding", "csv");
     std::string csv = "\n";
-    for (int y = 0; y < map.rows(); ++y) {
-        for (int x = 0; x < map.columns(); ++x) {
-            csv += std::to_string(map.at(x, y) + 1);
-            if (x + 1 < map.columns() || y + 1 < map.rows()) csv += ',';
+    for (int y = 0; y < rows; ++y) {
+        for (int x = 0; x < columns; ++x) {
+            const int tile = map.at(x, y);
+            csv += std::to_string(tile == Tile_Map::empty ? 0 : tile + first_gid);
+            if (x + 1 < columns || y + 1 < rows) csv += ',';
         }
         csv += '\n';
     }
     data->SetText(csv.c_str());
 
-    // Written aside and moved into place, so a failed write keeps the old file.
-    const std::string part = path + ".part";
-    if (doc.SaveFile(part.c_str()) != XML_SUCCESS) {
-        std::remove(part.c_str());
-        return false;
-    }
-    std::error_code error;
-    std::filesystem::rename(part, path, error);
-    if (error) std::remove(part.c_str());
-    return !error;
+    XMLPrinter printer(nullptr, source.empty() ? false : true);
+    doc.Print(&printer);
+    const size_t size = size_t(printer.CStrSize() > 0 ? printer.CStrSize() - 1 : 0);
+    // A derived name: never written through a link there.
+    return safe_file::written(
+        path, [&](std::FILE* file) { return std::fwrite(printer.CStr(), 1, size, file) == size; },
+        safe_file::Links::refuse);
+}
+
+bool Map_File::uses_sheet(const std::string& source, const std::string& sheet_name) {
+    XMLDocument doc;
+    if (doc.Parse(source.c_str(), source.size()) != XML_SUCCESS || !doc.RootElement()) return false;
+    for (const XMLElement* t = doc.RootElement()->FirstChildElement("tileset"); t; t = t->NextSiblingElement("tileset"))
+        for (const XMLElement* i = t->FirstChildElement("image"); i; i = i->NextSiblingElement("image"))
+            if (const char* source_name = i->Attribute("source"); source_name && sheet_name == source_name) return true;
+    return false;
+}
+
+std::string Map_File::text_of(const std::string& path) {
+    if (!safe_file::is_plain_file(path)) return {};
+    std::FILE* file = std::fopen(path.c_str(), "rb");
+    if (!file) return {};
+    std::string text;
+    char buffer[65536];
+    size_t n = 0;
+    while ((n = std::fread(buffer, 1, sizeof buffer, file)) > 0) text.append(buffer, n);
+    std::fclose(file);
+    return text;
 }
 
 Map_File::Reading Map_File::read(const std::string& path, Map_Editor& into, uint32_t tile_width,
@@ -156,17 +258,21 @@ Map_File::Reading Map_File::read(const std::string& path, Map_Editor& into, uint
                            " pixels, this tileset's are " + std::to_string(tile_width) + " x " +
                            std::to_string(tile_height) + ".");
 
+    // What is not the first tile layer (objects, image and group layers,
+    // further tile layers and tilesets, properties) is kept as the file has
+    // it when the map is written back, so it is no loss to leave it aside.
     const XMLElement* tileset = root->FirstChildElement("tileset");
     const int first_gid = attribute(tileset, "firstgid", 1);
-    if (tileset && tileset->NextSiblingElement("tileset"))
-        add_problem(r, "It uses more than one tileset; only the first was taken for this one.");
-
-    const XMLElement* layer = root->FirstChildElement("layer");
-    if (!layer) {
-        add_problem(r, "It has no tile layer, so no cell was read.");
+    if (attribute(root, "infinite", 0) != 0) {
+        add_problem(r, "It is an infinite map, kept in chunks; this editor reads maps of a fixed size only, so no cell was read.");
         return r;
     }
-    if (layer->NextSiblingElement("layer")) add_problem(r, "Only its first tile layer was read.");
+    const XMLElement* layer = root->FirstChildElement("layer");
+    // A map without a tile layer is a blank map here; writing adds one.
+    if (!layer) {
+        r.whole = r.problems.empty();
+        return r;
+    }
     const int columns = attribute(layer, "width", attribute(root, "width", 0));
     const int rows = attribute(layer, "height", attribute(root, "height", 0));
     const XMLElement* data = layer->FirstChildElement("data");

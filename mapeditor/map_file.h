@@ -20,9 +20,21 @@ public:
     static std::string map_path(const std::string& tileset_path);
     static std::string sheet_path(const std::string& tileset_path);
 
-    // False when the file could not be written; a failed write leaves any
-    // previous file as it was.
-    static bool write(const Tile_Map& map, uint32_t tile_width, uint32_t tile_height, const std::string& path);
+    // The version of the map format's editor named in the file, which some
+    // loaders require.
+    static constexpr const char* tiled_version = "1.10.2";
+
+    // Writes the map. With the text of the map file as source, only the first
+    // tile layer (the map's cells) is written into it and everything else
+    // stays as it is: objects, other layers, tilesets, properties. False when
+    // the file could not be written (a link there counts as a failure); a
+    // failed write leaves any previous file as it was.
+    static bool write(const Tile_Map& map, uint32_t tile_width, uint32_t tile_height, const std::string& path,
+                      const std::string& source = {});
+    // Whether the map text draws tiles from an image of that file name.
+    static bool uses_sheet(const std::string& source, const std::string& sheet_name);
+    // The bytes of a regular file; empty for anything else.
+    static std::string text_of(const std::string& path);
 
     struct Reading {
         bool found = false;  // there was a file to read

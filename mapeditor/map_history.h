@@ -37,6 +37,20 @@ public:
     size_t count() const { return done.size(); }
     void clear();
 
+    // A tile leaves the list for now: the edits that named it keep a mark of
+    // it (an empty cell to the map) that returned() turns back into its index.
+    void leaving(int index, int mark) { remap([index, mark](int t) { return t == index ? mark : t; }); }
+    void returned(int mark, int index) {
+        for (auto* list : {&done, &undone})
+            for (Map_Edit& edit : *list)
+                for (Map_Edit::Cell& c : edit.cells) {
+                    if (c.before == mark) c.before = index;
+                    if (c.after == mark) c.after = index;
+                }
+    }
+    // Marks are negative and below empty, so no change of the list moves them.
+    static constexpr int first_mark = Tile_Map::empty - 1;
+
     void tile_inserted(int index) { remap([index](int t) { return Tile_Map::inserted(t, index); }); }
     void tile_removed(int index) { remap([index](int t) { return Tile_Map::removed(t, index); }); }
     void tiles_swapped(int a, int b) { remap([a, b](int t) { return Tile_Map::swapped(t, a, b); }); }
@@ -44,7 +58,7 @@ public:
 private:
     template <typename Change>
     void remap(Change change) {
-        auto one = [&](int t) { return t == Tile_Map::empty ? t : change(t); };
+        auto one = [&](int t) { return t < 0 ? t : change(t); };
         for (auto* list : {&done, &undone})
             for (Map_Edit& edit : *list)
                 for (Map_Edit::Cell& c : edit.cells) {

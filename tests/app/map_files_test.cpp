@@ -19,9 +19,9 @@ class MapFilesTest : public Editor_Fixture {
 protected:
     Tileset& tileset() { return *g_editor->current(); }
     // The tileset as a user's save leaves it: the .wst, then its map.
-    void save(Tileset& t) {
+    void save(Tileset& t, bool map_saved = true) {
         ASSERT_GE(Tileset_File::write(t.store(), t.path().full), 0);
-        EXPECT_TRUE(save_map(t));
+        EXPECT_EQ(save_map(t), map_saved);
     }
     Tileset& load(const std::string& path) {
         EXPECT_TRUE(g_editor->tilesets().open_file(path));
@@ -71,10 +71,12 @@ TEST_F(MapFilesTest, TheMapComesBackWithItsTilesetAndABlankMapWritesNothing) {
     EXPECT_EQ(loaded.map().map().at(1, 0), Tile_Map::empty);
     EXPECT_EQ(loaded.map().own_file, tmx);
 
-    // Emptied by the user, the map must not come back from its old file.
+    // Emptied by the user, the map must not come back from its old file,
+    // which is written empty rather than removed.
     for (const auto& [x, y] : {std::pair{0, 0}, std::pair{19, 19}, std::pair{5, 5}}) loaded.map().place(x, y, Tile_Map::empty);
     save(loaded);
-    EXPECT_FALSE(std::filesystem::exists(tmx));
+    ASSERT_TRUE(std::filesystem::exists(tmx));
+    EXPECT_TRUE(load(wst).map().map().is_blank());
 }
 
 TEST_F(MapFilesTest, ADamagedMapIsReportedAndReplacedOnlyWhenTheUserAgrees) {
@@ -96,7 +98,7 @@ TEST_F(MapFilesTest, ADamagedMapIsReportedAndReplacedOnlyWhenTheUserAgrees) {
 
     loaded.map().place(1, 1, 0);
     script.then([] { push_key(SDLK_ESCAPE); });  // keep the file
-    save(loaded);
+    save(loaded, false);
     EXPECT_EQ(text_of(tmx), damaged);
     script.then([] { push_key('y'); });  // replace it
     save(loaded);

@@ -86,12 +86,13 @@ TEST_F(ArrangeDialogTest, TabSwapsThePairAndTwiceRestoresTheOrderButStillReports
     EXPECT_EQ(marks(store()), (std::vector<int>{1, 2, 3, 4, 5}));
     EXPECT_EQ(Backdrop::depth(), 0);
 
-    // As the editor's command: the history starts again, the tileset is
-    // modified and the canvas shows what now stands at the current place.
+    // As the editor's command: one step to undo on top of the history, the
+    // tileset is modified and the canvas shows what now stands at the current place.
     Tileset& t = *g_editor->current();
     g_editor->run_command(command_next_tile);
     g_editor->run_command(command_previous_tile);
-    ASSERT_GT(t.history().count(), 1);
+    const int records = t.history().count();
+    ASSERT_GT(records, 1);
     t.clear_modified();
     script.then([] {
         push_click(0, 0, SDL_BUTTON_RIGHT);
@@ -101,10 +102,15 @@ TEST_F(ArrangeDialogTest, TabSwapsThePairAndTwiceRestoresTheOrderButStillReports
     // The right click outside the grid leaves the secondary tile at 0.
     g_editor->run_command(command_arrange_select);
     EXPECT_EQ(marks(store()), (std::vector<int>{3, 2, 1, 4, 5}));
-    EXPECT_EQ(t.history().count(), 1);
+    EXPECT_EQ(t.history().count(), records + 1);
     EXPECT_TRUE(t.is_modified());
     EXPECT_EQ(store().current_index(), 2);
     EXPECT_EQ(g_editor->canvas().tile(), store().tile_at(2));
+    // Undo puts the tiles back in their order, redo swaps them again.
+    g_editor->run_command(command_undo);
+    EXPECT_EQ(marks(store()), (std::vector<int>{1, 2, 3, 4, 5}));
+    g_editor->run_command(command_redo);
+    EXPECT_EQ(marks(store()), (std::vector<int>{3, 2, 1, 4, 5}));
 }
 
 TEST_F(ArrangeDialogTest, SpaceSelectsOnlyAnotherTileAndReturnYAndEscapeSelectNothing) {

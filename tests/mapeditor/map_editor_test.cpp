@@ -58,7 +58,7 @@ TEST(MapEditor, CellsAndHistoryFollowDeleteInsertAndSwapOfTiles) {
     EXPECT_EQ(single.map().map().at(2, 2), 0);
 }
 
-TEST(MapEditor, ANewTileSizeMakesANewMapOfItsCellCount) {
+TEST(MapEditor, ANewTileSizeMakesANewMapOfItsCellCountKeepingTheCellsThatFit) {
     Tileset t("forest.wst", 24, 24);
     t.store().add_tile();
     t.map().place(1, 1, 0);
@@ -66,12 +66,21 @@ TEST(MapEditor, ANewTileSizeMakesANewMapOfItsCellCount) {
     t.map().paint(2, 2, 0);
     t.map().end_stroke();
     t.map().own_file = "forest.tmx";
-    t.resize_tiles(6, 32);
+    EXPECT_EQ(t.resize_tiles(6, 32), 0);
     EXPECT_EQ(t.map().map().columns(), 80);
     EXPECT_EQ(t.map().map().rows(), 15);
-    EXPECT_TRUE(t.map().map().is_blank());
+    EXPECT_EQ(t.map().map().at(1, 1), 0);
+    EXPECT_EQ(t.map().map().at(2, 2), 0);
+    EXPECT_FALSE(t.map().is_saved()) << "the map file must be written for the new size";
     EXPECT_FALSE(t.map().undo()) << "the old map's history went with it";
     EXPECT_EQ(t.map().own_file, "forest.tmx") << "the file beside the tileset is still this tileset's";
+    // Larger tiles, fewer cells: what no longer fits is counted, and the old
+    // file keeps it until the user agrees to replace it.
+    t.map().place(70, 1, 0);
+    EXPECT_EQ(t.resize_tiles(24, 24), 1);
+    EXPECT_EQ(t.map().map().at(1, 1), 0);
+    EXPECT_TRUE(t.map().own_file.empty());
+
     // And the new map follows the store as the old one did.
     t.map().place(0, 0, 0);
     t.store().go_to(0);

@@ -27,7 +27,9 @@ std::string foreign_map(const std::string& layer_size, const std::string& csv, i
 
 TEST(MapFile, ARoundTripKeepsEveryCellAndTheFileSaysWhatTiledReads) {
     Scratch_Dir dir;
-    EXPECT_EQ(Map_File::map_path(dir.file("forest.v2.wst")), dir.file("forest.tmx"));
+    // The whole name but its extension: two tilesets never share a map.
+    EXPECT_EQ(Map_File::map_path(dir.file("forest.v2.wst")), dir.file("forest.v2.tmx"));
+    EXPECT_EQ(Map_File::map_path("/a.b/forest"), "/a.b/forest.tmx");
     EXPECT_EQ(Map_File::sheet_path(dir.file("forest.wst")), dir.file("forest.bmp"));
 
     Map_Editor m(24, 32);  // 20 x 15 cells
@@ -139,7 +141,7 @@ TEST(MapFile, DamagedAndForeignFilesAreReadAsFarAsTheyAreValid) {
     EXPECT_EQ(base64.cells, 0);
     const std::string written = foreign_map("width=\"4\" height=\"3\"", "1,2,3,4,\n5,6,7,8,\n9,1,2,3");
     for (const std::string& text :
-         {std::string("<map tilewidth=\"24\" tileheight=\"24\"><tileset firstgid=\"1\"/></map>"),
+         {std::string("<map tilewidth=\"24\" tileheight=\"24\" infinite=\"1\"><layer/></map>"),
           std::string("<?xml version=\"1.0\"?><tileset/>"), std::string("\x01\x02\xff WST not xml"),
           written.substr(0, written.size() / 2), written.substr(0, written.find("5,6")), std::string()}) {
         auto [damaged, damaged_top] = read(text);
