@@ -99,6 +99,14 @@ Editor::Editor()
         return g_message_box->ask("Close", "Current tileset is not saved. Close it anyway?\r(Progress will be lost.)");
     };
     open.current_changed = [this](Tileset&) { show_current_tile(); };
+    // Its tiles go with it: a floating image is put down first (or, kept
+    // floating, goes to the next tileset) and the canvas lets go of the tile.
+    open.closing = [this](Tileset& closed) {
+        if (shown_tileset != &closed) return;
+        selection_tools->tile_changing();
+        canvas_view->set_tile(nullptr);
+        shown_tileset = nullptr;
+    };
     Backdrop::set_base(paint_editor, this);
     // Every tileset made from here on gets its navigation pane.
     set_tileset_navigation_maker(make_tile_navigation_pane);
@@ -254,14 +262,23 @@ void Editor::relayout() {
 // Another tile: a floating image is put down on the one it floated over
 // first, and with "Clear selection when another tile selected" on the
 // selection goes.
+// In "Persistent" mode an image floating over another tileset's tile goes
+// along; each history then holds its side: the image left the one and
+// arrived in the other, so undo in either tab gives back what it showed.
 void Editor::show_current_tile() {
     Tileset* t = open.current();
     Tile* next = t ? t->store().current_tile() : nullptr;
+    Tileset* from = open.holds(shown_tileset) ? shown_tileset : nullptr;
+    const bool carried = canvas_view->float_pending() && from != t && !undo_control->replaying() &&
+                         selection_tools->mode() == Selection_Tools::persistent;
     if (next != canvas_view->tile()) {
+        if (carried && from) undo_control->record_float_left(*from);
         selection_tools->tile_changing();
         if (g_options && g_options->is_on(Options::clear_selection)) canvas_view->reset_selection();
     }
     canvas_view->set_tile(next);
+    shown_tileset = t;
+    if (carried && t && canvas_view->float_pending()) undo_control->record(command_work_selection);
 }
 
 void Editor::run_command(int command) {

@@ -73,6 +73,8 @@ public:
     Undo_Control& undo() { return *undo_control; }
     const Position_Readout& position() const { return readout; }
     SDL_FPoint pointer() const { return SDL_FPoint{pointer_x, pointer_y}; }
+    // The open tileset whose tile the canvas shows, or none.
+    Tileset* shown_tileset_if_open() { return open.holds(shown_tileset) ? shown_tileset : nullptr; }
     // The current tileset's navigation pane, if it has one.
     Tileset_Navigation* navigation();
 
@@ -104,6 +106,8 @@ private:
     int delete_pad_brush();
 
     Tileset_List open;
+    // The tileset whose tile the canvas shows.
+    Tileset* shown_tileset = nullptr;
     bool quit = false;
     bool ctrl = false;
     float pointer_x = -1;

@@ -253,6 +253,11 @@ bool Tool_Options_Pane::select_previous_tool() const { return choice(tool_pages:
 int Tool_Options_Pane::selection_mode() const { return choice(tool_pages::row_selection_mode); }
 int Tool_Options_Pane::stamp_mode() const { return choice(tool_pages::row_stamp_mode); }
 
+void Tool_Options_Pane::set_selection_mode(int mode) {
+    auto& r = static_cast<Option_Pane&>(*rows[tool_pages::row_selection_mode]);
+    static_cast<Textlist_Dialog_Item*>(r.container().find(setting_pane_first_id + 1))->choice.value = mode;
+}
+
 void Tool_Options_Pane::set_rectangle_type(int type) {
     auto& r = static_cast<Option_Pane&>(*rows[tool_pages::row_rectangle_type]);
     static_cast<Textlist_Dialog_Item*>(r.container().find(setting_pane_first_id + 1))->choice.value = type;

@@ -90,6 +90,7 @@ public:
     int selection_mode() const;     // 0 standard, 1 persistent, 2 fixed
     int stamp_mode() const;         // 0 brush, 1 pattern
     void set_rectangle_type(int type);
+    void set_selection_mode(int mode);
     void set_ellipse_type(int type);
 
     // The read-outs the tools write while dragging.

@@ -40,6 +40,27 @@ int Undo_Control::record_list_change(std::unique_ptr<TileListUndoNode> record) {
     return command;
 }
 
+void Undo_Control::record_float_left(Tileset& from) {
+    const Tile* tile = from.store().current_tile();
+    if (!tile) return;
+    from.history().push(std::make_unique<ImageUndoNode>(command_cut, from.store().current_index(), *tile, nullptr));
+    from.set_modified();
+}
+
+void Undo_Control::record_put_down() {
+    Tileset* owner = editor.shown_tileset_if_open();
+    const Tile* tile = editor.canvas().tile();
+    if (!owner || !tile) return;
+    int index = 0;
+    for (const auto& t : owner->store().all()) {
+        if (t.get() == tile) {
+            owner->history().push(std::make_unique<ImageUndoNode>(command_deselect, index, *tile, nullptr));
+            return;
+        }
+        ++index;
+    }
+}
+
 namespace {
 struct Replay {
     explicit Replay(int& depth) : depth(depth) { ++depth; }

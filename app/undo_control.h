@@ -28,6 +28,12 @@ public:
     // A change of the tile list, recorded by the command that made it; the
     // tileset is marked modified. Returns the record's command.
     int record_list_change(std::unique_ptr<TileListUndoNode> record);
+    // A floating image carried away to another tileset: the tileset it left
+    // records its tile without it.
+    void record_float_left(Tileset& from);
+    // A floating image was put down on the tile the canvas shows because
+    // that tile is being left: recorded on that tile, in its tileset.
+    void record_put_down();
     bool undo();
     bool redo();
     void view();

@@ -67,7 +67,7 @@ void Tileset::set_path(const std::string& path) {
     notify_name_changed();
 }
 
-std::string Tileset::display_name() const { return modified ? file_path.name + "*" : file_path.name; }
+std::string Tileset::display_name() const { return is_modified() ? file_path.name + "*" : file_path.name; }
 
 int Tileset::resize_tiles(uint32_t width, uint32_t height) {
     tile_store->resize(width, height);

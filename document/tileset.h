@@ -48,7 +48,9 @@ public:
     // None while no display has installed its maker.
     Tileset_Navigation* navigation() { return navigation_pane.get(); }
     const File_Path& path() const { return file_path; }
-    bool is_modified() const { return modified; }
+    // Changed since the last save or load: a pixel or tile edit, or map
+    // edits not yet written beside the tileset.
+    bool is_modified() const { return modified || !map_editor->is_saved(); }
     bool is_named() const { return named; }
 
     // Setting an already set flag does nothing; otherwise the window title is

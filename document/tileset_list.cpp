@@ -36,10 +36,11 @@ bool Tileset_List::open_file(const std::string& path) {
     return true;
 }
 
+// Each tileset keeps its current tile: coming back to a tab shows the tile
+// left there (a floating image carried along lands where the user sees it).
 void Tileset_List::make_current(Tileset& tileset) {
     current_tileset = &tileset;
     refresh_title();
-    tileset.store().go_to(0);
     if (current_changed) current_changed(tileset);
 }
 
@@ -49,11 +50,13 @@ bool Tileset_List::close_current() {
     if (tilesets.size() < 2) {
         // Without a name left for the fresh tileset the last one stays open.
         if (untitled_counter > last_untitled) return false;
+        if (closing) closing(*current_tileset);
         destroy_all();
         return new_tileset(fresh_size, fresh_size);
     }
     auto it = std::find_if(tilesets.begin(), tilesets.end(),
                            [this](const auto& t) { return t.get() == current_tileset; });
+    if (closing) closing(*current_tileset);
     it = tilesets.erase(it);
     if (it == tilesets.end()) --it;
     make_current(**it);

@@ -47,6 +47,13 @@ public:
     std::function<void(const std::string&)> set_window_title;
     // A tileset became current: the editor shows its current tile.
     std::function<void(Tileset&)> current_changed;
+    // The tileset is about to be closed: nothing may show its tiles after this.
+    std::function<void(Tileset&)> closing;
+    bool holds(const Tileset* tileset) const {
+        for (const auto& t : tilesets)
+            if (t.get() == tileset) return true;
+        return false;
+    }
 
 private:
     void refresh_title();

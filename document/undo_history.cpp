@@ -16,13 +16,14 @@ bool Undo_History::record(int command, Tile_Store& store, const Undo_Target* tar
     const int index = store.current_index();
     const int group = commands::group(command);
     const int inverse = commands::inverse(command);
-    if (inverse >= 0) {
-        push(std::make_unique<ImageUndoNode>(inverse, index, *tile, nullptr));
-        return group == group_image;
-    }
     const Tile* area = target ? target->floating_area() : nullptr;
     const int area_x = area ? target->floating_x() : 0;
     const int area_y = area ? target->floating_y() : 0;
+    if (inverse >= 0) {
+        // A floating image carried along to another tile is part of the state.
+        push(std::make_unique<ImageUndoNode>(inverse, index, *tile, nullptr, area, area_x, area_y));
+        return group == group_image;
+    }
     if (command == command_work_selection) {
         if (!area) return false;
         const Tile* mask = target->has_selection() ? target->selection_mask() : nullptr;

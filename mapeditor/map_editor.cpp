@@ -30,6 +30,7 @@ void Map_Editor::set_cell(int cell, int tile) {
     cells.set(cell, after);
     open_edit.cells.push_back(Map_Edit::Cell{cell, before, after});
     ++changes;
+    ++edits;
 }
 
 void Map_Editor::paint(int x, int y, int tile) {
@@ -79,6 +80,7 @@ bool Map_Editor::undo() {
     end_stroke();
     if (!steps.undo(cells)) return false;
     ++changes;
+    ++edits;
     return true;
 }
 
@@ -86,6 +88,7 @@ bool Map_Editor::redo() {
     end_stroke();
     if (!steps.redo(cells)) return false;
     ++changes;
+    ++edits;
     return true;
 }
 
@@ -99,33 +102,35 @@ int Map_Editor::take_cells(const Tile_Map& other) {
                 ++left_out;
             else
                 cells.set(x, y, tile);
+            ++edits;
         }
     ++changes;
     return left_out;
 }
 
 void Map_Editor::place(int x, int y, int tile) {
+    if (cells.at(x, y) != (tile < 0 ? Tile_Map::empty : tile)) ++edits;
     cells.set(x, y, tile);
     ++changes;
 }
 
 void Map_Editor::tile_inserted(int index) {
     end_stroke();
-    cells.tile_inserted(index);
+    if (cells.tile_inserted(index)) ++edits;
     steps.tile_inserted(index);
     ++changes;
 }
 
 void Map_Editor::tile_removed(int index) {
     end_stroke();
-    cells.tile_removed(index);
+    if (cells.tile_removed(index)) ++edits;
     steps.tile_removed(index);
     ++changes;
 }
 
 void Map_Editor::tiles_swapped(int a, int b) {
     end_stroke();
-    cells.tiles_swapped(a, b);
+    if (cells.tiles_swapped(a, b)) ++edits;
     steps.tiles_swapped(a, b);
     ++changes;
 }
@@ -145,7 +150,10 @@ void Map_Editor::tile_returned(int index, const Tile_Uses& uses) {
     const auto* map_uses = dynamic_cast<const Map_Uses*>(&uses);
     if (!map_uses) return;
     for (const int c : map_uses->cells)
-        if (c < cells.cell_count() && cells.at(c) == Tile_Map::empty) cells.set(c, index);
+        if (c < cells.cell_count() && cells.at(c) == Tile_Map::empty) {
+            cells.set(c, index);
+            ++edits;
+        }
     steps.returned(map_uses->mark, index);
     ++changes;
 }

@@ -56,10 +56,9 @@ public:
     // (file_stamp).
     std::string own_file;
     safe_file::Stamp file_stamp;
-    // The generation last read or written: the map is unsaved while it differs.
-    uint64_t saved_generation = 0;
-    bool is_saved() const { return saved_generation == changes; }
-    void mark_saved() { saved_generation = changes; }
+    // Whether the cells are as last read or written.
+    bool is_saved() const { return saved_edits == edits; }
+    void mark_saved() { saved_edits = edits; }
 
 private:
     void set_cell(int cell, int tile);
@@ -69,5 +68,9 @@ private:
     Map_Edit open_edit;
     bool stroking = false;
     uint64_t changes = 0;
+    // Counts changes of the cells' contents only (a tile added at the end of
+    // the list changes the generation, not a cell).
+    uint64_t edits = 0;
+    uint64_t saved_edits = 0;
     int next_mark = Map_History::first_mark;
 };

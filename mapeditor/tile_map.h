@@ -31,9 +31,10 @@ public:
     // The tileset's list changes: a tile placed at an index moves the tiles
     // from there one up, a removed tile leaves its cells empty and moves the
     // ones after it one down, a swap exchanges the two indices.
-    void tile_inserted(int index) { remap([index](int t) { return inserted(t, index); }); }
-    void tile_removed(int index) { remap([index](int t) { return removed(t, index); }); }
-    void tiles_swapped(int a, int b) { remap([a, b](int t) { return swapped(t, a, b); }); }
+    // True when any cell changed.
+    bool tile_inserted(int index) { return remap([index](int t) { return inserted(t, index); }); }
+    bool tile_removed(int index) { return remap([index](int t) { return removed(t, index); }); }
+    bool tiles_swapped(int a, int b) { return remap([a, b](int t) { return swapped(t, a, b); }); }
 
     // The same changes for one stored index (the map's history keeps them too).
     static int inserted(int tile, int index) { return tile >= index ? tile + 1 : tile; }
@@ -44,9 +45,15 @@ public:
 
 private:
     template <typename Change>
-    void remap(Change change) {
+    bool remap(Change change) {
+        bool changed = false;
         for (int& c : cells)
-            if (c != empty) c = change(c);
+            if (c != empty) {
+                const int after = change(c);
+                changed = changed || after != c;
+                c = after;
+            }
+        return changed;
     }
 
     int width;

@@ -112,7 +112,14 @@ void Selection_Tools::leaving_work_selection() {
     put_down();
 }
 
-void Selection_Tools::tile_changing() { leaving_work_selection(); }
+// Leaving its tile puts the image down as a step of its own: the records of
+// other tiles know nothing of it, so without this step a redo across the
+// change of tile would drop the image instead of putting it down.
+void Selection_Tools::tile_changing() {
+    if (editor.undo().replaying() || mode() == persistent || !canvas().float_pending()) return;
+    put_down();
+    editor.undo().record_put_down();
+}
 
 bool Selection_Tools::float_selection(bool lift) {
     Canvas_View& view = canvas();

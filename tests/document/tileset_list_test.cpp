@@ -61,7 +61,7 @@ TEST(TilesetListCurrent, TitleFollowsTheCurrentTileset) {
                                                 "untitled1", "forest"}));
 }
 
-TEST(TilesetListCurrent, MakeCurrentRewindsToTheFirstTile) {
+TEST(TilesetListCurrent, MakeCurrentKeepsTheTilesetsCurrentTile) {
     Tileset_List list;
     list.new_tileset(8, 8);
     list.current()->store().add_tile();
@@ -69,7 +69,7 @@ TEST(TilesetListCurrent, MakeCurrentRewindsToTheFirstTile) {
     Tileset* shown = nullptr;
     list.current_changed = [&](Tileset& t) { shown = &t; };
     list.make_current(*list.current());
-    EXPECT_EQ(list.current()->store().current_index(), 0);
+    EXPECT_EQ(list.current()->store().current_index(), 1);
     EXPECT_EQ(shown, list.current());
 }
 

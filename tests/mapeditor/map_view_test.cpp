@@ -114,6 +114,7 @@ TEST_F(MapViewTest, PaintFillPickSeamsAndUndoThroughTheEditorsCommand) {
 TEST_F(MapViewTest, CellsShowTheirTilesCurrentPixelsWithGridAndEraser) {
     tileset().map().place(0, 0, 0);
     tileset().map().place(1, 0, 1);
+    tileset().map().mark_saved();  // as read from its file
     const Map_View view = probe();
     const Rectangle p = view.picture();
     const SDL_Point first = middle(view.cell_area(0, 0));

@@ -1,0 +1,422 @@
+// A property checker: seeded random sequences of what changes a document
+// (pen dabs, every tile-list command, selections lifted, moved, cloned and
+// put down, copy and paste, arrange swaps, map strokes, tab switches, saves
+// and loads) with undo and redo interleaved, through the real editor. After
+// each step it checks that
+// - every undo and redo gives back exactly the state the user saw when that
+//   step was current (tiles as drawn, their order, the map's cells), map
+//   strokes and tileset steps undone in the order they were made;
+// - a save followed by a load gives back what the user saw, floating image
+//   included;
+// - a tileset that differs from its last saved file is marked modified.
+// MOSSWICK_CHECKER_SEED and MOSSWICK_CHECKER_STEPS replay or lengthen a run.
+#include <gtest/gtest.h>
+
+#include <chrono>
+#include <cstdlib>
+#include <deque>
+#include <map>
+#include <optional>
+#include <random>
+#include <sstream>
+#include <string>
+#include <vector>
+
+#include "app/canvas_view.h"
+#include "app/commands.h"
+#include "app/editor.h"
+#include "app/file_dialog.h"
+#include "app/tool_options.h"
+#include "color/arrange_dialog.h"
+#include "color/color_tools.h"
+#include "document/tileset.h"
+#include "document/tileset_file.h"
+#include "mapeditor/map_file.h"
+#include "support/editor_fixture.h"
+#include "ui/event_script.h"
+#include "ui/ui_globals.h"
+
+namespace {
+
+// What the user sees of a tileset: each tile as drawn (the current one with
+// its floating image put down and without a seam offset), and the map.
+struct Seen {
+    std::vector<std::vector<uint32_t>> tiles;
+    std::vector<int> cells;
+    bool operator==(const Seen&) const = default;
+};
+
+Seen seen(Tileset& t) {
+    Seen s;
+    Tile_Store& store = t.store();
+    const bool current = g_editor->current() == &t;
+    std::unique_ptr<Tile> shown = current ? g_editor->canvas().tile_as_shown() : nullptr;
+    for (int i = 0; i < store.tile_count(); ++i) {
+        const Tile* tile = store.tile_at(i);
+        if (shown && i == store.current_index()) tile = shown.get();
+        std::vector<uint32_t> pixels;
+        for (int p = 0; p < tile->pixel_count(); ++p) pixels.push_back(tile->pixels()[p].word());
+        s.tiles.push_back(std::move(pixels));
+    }
+    const Tile_Map& map = t.map().map();
+    for (int c = 0; c < map.cell_count(); ++c) s.cells.push_back(map.at(c));
+    return s;
+}
+
+std::string describe(const Seen& a, const Seen& b) {
+    std::ostringstream out;
+    out << "tiles " << a.tiles.size() << " vs " << b.tiles.size();
+    for (size_t i = 0; i < std::min(a.tiles.size(), b.tiles.size()); ++i)
+        if (a.tiles[i] != b.tiles[i]) out << ", tile " << i << " differs";
+    int cells = 0;
+    for (size_t i = 0; i < std::min(a.cells.size(), b.cells.size()); ++i) cells += a.cells[i] != b.cells[i];
+    out << ", cells differing " << cells;
+    return out.str();
+}
+
+// The steps of one tileset in the order they were made, each with what the
+// user saw after it: 't' a step of the tileset's history, 'm' a map stroke.
+struct Track {
+    std::vector<std::pair<char, Seen>> steps;
+    size_t at = 0;
+    const Undo_Node* top = nullptr;
+    size_t map_steps = 0;
+    std::optional<Seen> saved;
+};
+
+uint64_t seed_of_run() {
+    const char* text = std::getenv("MOSSWICK_CHECKER_SEED");
+    return text ? std::strtoull(text, nullptr, 10) : 20261123u;
+}
+
+int steps_of_run() {
+    const char* text = std::getenv("MOSSWICK_CHECKER_STEPS");
+    return text ? std::atoi(text) : 3000;
+}
+
+}  // namespace
+
+class Checker : public Editor_Fixture {
+protected:
+    void TearDown() override {
+        set_file_chooser(nullptr);
+        Headless::TearDown();
+    }
+
+    int pick(int n) { return int(random() % uint64_t(n)); }
+    Tileset& current() { return *g_editor->current(); }
+
+    SDL_Point cell_point(int x, int y) {
+        const Canvas_View& c = g_editor->canvas();
+        const int s = c.pixel_size();
+        return SDL_Point{c.origin().x + x * s + s / 2, c.origin().y + y * s + s / 2};
+    }
+    SDL_Point random_cell() {
+        const Tile* tile = g_editor->canvas().tile();
+        return cell_point(pick(tile->width()), pick(tile->height()));
+    }
+
+    // A drag on the canvas with the current tool, notes answered with Escape.
+    void drag(SDL_Point from, SDL_Point to) {
+        Event_Script script;
+        script.then([to] { push_motion(to.x, to.y, SDL_BUTTON_LMASK); });
+        script.then([to] { push_button(to.x, to.y, false); });
+        for (int i = 0; i < 4; ++i) script.then([] { push_key(SDLK_ESCAPE); });
+        push_button(from.x, from.y, true);
+        pump();
+        drop_pending_events();
+    }
+
+    // A command through the dispatch; any note or question it shows is
+    // closed with Escape (no to a question).
+    void command(int c) {
+        Event_Script script;
+        for (int i = 0; i < 4; ++i) script.then([] { push_key(SDLK_ESCAPE); });
+        g_editor->run_command(c);
+        drop_pending_events();
+    }
+
+    void arrange_swap() {
+        const int count = current().store().tile_count();
+        if (count < 2) return;
+        const int a = pick(count);
+        const int b = pick(count);
+        Arrange_Dialog probe(16, 16, 32, 32, current().store());
+        const Rectangle g = probe.grid();
+        auto centre = [g](int i) { return SDL_Point{g.x + (i % 16) * 32 + 16, g.y + (i / 16) * 32 + 16}; };
+        Event_Script script;
+        script.then([=] {
+            push_click(centre(a).x, centre(a).y);
+            push_click(centre(b).x, centre(b).y, SDL_BUTTON_RIGHT);
+            push_key(SDLK_TAB);
+            push_key(SDLK_RETURN);
+        });
+        for (int i = 0; i < 4; ++i) script.then([] { push_key(SDLK_ESCAPE); });
+        g_editor->run_command(command_arrange_select);
+        drop_pending_events();
+    }
+
+    void map_stroke() {
+        Map_Editor& map = current().map();
+        const int tile = pick(current().store().tile_count() + 1) - 1;
+        map.begin_stroke();
+        const int x = pick(map.map().columns());
+        const int y = pick(map.map().rows());
+        map.paint_line(x, y, x + pick(5), y + pick(3), tile);
+        map.end_stroke();
+    }
+
+    void select_rectangle() {
+        command(command_rectangle_selector);
+        drag(random_cell(), random_cell());
+    }
+
+    void work_drag() {
+        command(command_work_selection);
+        Canvas_View& view = g_editor->canvas();
+        SDL_Point from = random_cell();
+        // Mostly from the selection or the image, so that it lifts and moves.
+        const Tile* tile = view.tile();
+        for (int tries = 0; tries < 40 && pick(4) != 0; ++tries) {
+            const int x = pick(tile->width());
+            const int y = pick(tile->height());
+            if (view.on_float(x, y) || (view.has_selection() && view.selection()->is_white(x, y))) {
+                from = cell_point(x, y);
+                break;
+            }
+        }
+        drag(from, random_cell());
+    }
+
+    void pen_dab() {
+        command(command_pen);
+        g_tool_options->color_tools().set_tool_color(
+            0, Color(uint8_t(pick(256)), uint8_t(pick(256)), uint8_t(pick(256)), uint8_t(pick(2) ? 255 : pick(256))));
+        const SDL_Point p = random_cell();
+        drag(p, p);
+    }
+
+    void switch_tab() {
+        Tileset_List& open = g_editor->tilesets();
+        if (open.count() < 3 && pick(3) == 0) {
+            const uint32_t size = pick(2) ? 16 : 24;
+            ASSERT_TRUE(open.new_tileset(size, size));
+        } else {
+            open.make_current(open.at(pick(open.count())));
+        }
+        g_editor->relayout();
+    }
+
+    // Saved under a new name: reading the file and its map back gives what
+    // the user saw, and the tileset is no longer marked modified.
+    void save_and_load(Track& track) {
+        Tileset& t = current();
+        const Seen before = seen(t);
+        const std::string path = (dir.path / ("check" + std::to_string(++saves) + ".wst")).string();
+        set_file_chooser([path](int, const std::string&, std::string& chosen) {
+            chosen = path;
+            return int(file_chosen);
+        });
+        command(command_save_as);
+        set_file_chooser(nullptr);
+        ASSERT_FALSE(t.is_modified()) << log();
+        ASSERT_TRUE(seen(t) == before) << "saving changed what the user sees\n" << log();
+        track.saved = before;
+        std::unique_ptr<Tile_Store> back = Tileset_File::read(path);
+        ASSERT_NE(back, nullptr) << log();
+        Seen read;
+        for (const auto& tile : back->all()) {
+            std::vector<uint32_t> pixels;
+            for (int p = 0; p < tile->pixel_count(); ++p) pixels.push_back(tile->pixels()[p].word());
+            read.tiles.push_back(std::move(pixels));
+        }
+        Map_Editor map(back->tile_width(), back->tile_height());
+        Map_File::read(Map_File::map_path(path), map, back->tile_width(), back->tile_height(), back->tile_count());
+        for (int c = 0; c < map.map().cell_count(); ++c) read.cells.push_back(map.map().at(c));
+        ASSERT_TRUE(read == before) << "the saved file: " << describe(read, before) << "\n" << log();
+    }
+
+    // Undo of the latest step of the track, the tileset's or the map's.
+    void undo(Track& track) {
+        if (track.at == 0) return;
+        Tileset& t = current();
+        if (track.steps[track.at].first == 't') {
+            const int position = t.history().position();
+            command(command_undo);
+            if (t.history().position() == position) {
+                // The history's floor: the steps before it are gone for good.
+                track.steps.erase(track.steps.begin(), track.steps.begin() + long(track.at));
+                track.at = 0;
+                return;
+            }
+        } else {
+            ASSERT_TRUE(t.map().undo()) << log();
+        }
+        --track.at;
+        expect_step(track, "undo");
+    }
+
+    void redo(Track& track) {
+        if (track.at + 1 >= track.steps.size()) return;
+        Tileset& t = current();
+        if (track.steps[track.at + 1].first == 't')
+            command(command_redo);
+        else
+            ASSERT_TRUE(t.map().redo()) << log();
+        ++track.at;
+        expect_step(track, "redo");
+    }
+
+    void expect_step(Track& track, const char* what) {
+        const Seen now = seen(current());
+        if (std::getenv("MOSSWICK_CHECKER_TRACE")) {
+            const Undo_History& h = current().history();
+            std::fprintf(stderr, "  %s to step %zu (%c), record %d of %d: %s, tile %d\n", what, track.at,
+                         track.steps[track.at].first, h.position(), h.count(),
+                         h.position() >= 0 ? commands::name(h.at(h.position()).undo_command() < 0 ? 0 : h.at(h.position()).undo_command()) : "-",
+                         h.position() >= 0 ? h.at(h.position()).tile_index() : -1);
+        }
+        ASSERT_TRUE(now == track.steps[track.at].second)
+            << what << " did not give back step " << track.at << ": " << describe(now, track.steps[track.at].second)
+            << "\n"
+            << log();
+        remember_tops(track);
+    }
+
+    void remember_tops(Track& track) { remember_tops(track, current()); }
+    void remember_tops(Track& track, Tileset& t) {
+        track.top = t.history().position() >= 0 ? &t.history().at(t.history().position()) : nullptr;
+        track.map_steps = t.map().history().count();
+    }
+
+    // After an operation other than undo and redo: a new step joins the
+    // track, or nothing the user sees changed.
+    // A tile change that puts a floating image down records that first, with
+    // nothing changed to the eye: such a step holds what was seen before.
+    void follow(Tileset& t, const Seen& before) {
+        Track& track = track_of(t);
+        const Undo_History& h = t.history();
+        const Undo_Node* top = h.position() >= 0 ? &h.at(h.position()) : nullptr;
+        const Seen now = seen(t);
+        int records = 0;
+        if (top != track.top) {
+            records = 1;
+            for (int i = 0; i <= h.position(); ++i)
+                if (&h.at(i) == track.top) records = h.position() - i;
+        }
+        if (records == 0 && t.map().history().count() != track.map_steps) {
+            track.steps.resize(track.at + 1);
+            track.steps.emplace_back('m', now);
+            track.at = track.steps.size() - 1;
+        } else if (records > 0) {
+            track.steps.resize(track.at + 1);
+            for (int r = 1; r < records; ++r) track.steps.emplace_back('t', before);
+            track.steps.emplace_back('t', now);
+            track.at = track.steps.size() - 1;
+        } else {
+            ASSERT_TRUE(now == track.steps[track.at].second)
+                << "a change that is no step: " << describe(now, track.steps[track.at].second) << "\n"
+                << log();
+        }
+        remember_tops(track, t);
+    }
+
+    void check_modified(Track& track) {
+        if (!track.saved) return;
+        if (!(seen(current()) == *track.saved)) {
+            ASSERT_TRUE(current().is_modified()) << "unmarked change\n" << log();
+        }
+    }
+
+    Track& track_of(Tileset& t) {
+        auto [it, made] = tracks.try_emplace(&t);
+        if (made) {
+            it->second.steps.emplace_back('t', seen(t));
+            remember_tops(it->second, t);
+        }
+        return it->second;
+    }
+
+    std::string log() const {
+        std::ostringstream out;
+        out << "seed " << seed << " (MOSSWICK_CHECKER_SEED=" << seed << " replays it); last operations:";
+        for (const std::string& line : recent) out << "\n  " << line;
+        return out.str();
+    }
+
+    uint64_t seed = seed_of_run();
+    std::mt19937_64 random{seed};
+    std::map<Tileset*, Track> tracks;
+    std::deque<std::string> recent;
+    Temp_Dir dir;
+    int saves = 0;
+};
+
+TEST_F(Checker, UndoRedoSaveAndLoadGiveBackWhatTheUserSaw) {
+    const auto start = std::chrono::steady_clock::now();
+    const int steps = steps_of_run();
+    static const char* const names[] = {"pen dab", "add tile", "insert tile", "delete tile", "next tile",
+                                        "previous tile", "select rectangle", "work drag", "copy", "cut",
+                                        "paste", "clone", "deselect", "selection mode", "map stroke",
+                                        "arrange swap", "tab", "save and load", "undo", "redo", "sweep"};
+    int step = 0;
+    for (; step < steps; ++step) {
+        if (std::chrono::steady_clock::now() - start > std::chrono::seconds(60)) break;
+        Tileset& t = current();
+        Track& track = track_of(t);
+        const int weights[] = {8, 2, 2, 3, 2, 2, 5, 6, 2, 2, 3, 2, 2, 1, 4, 1, 2, 1, 12, 6, 1};
+        int total = 0;
+        for (int w : weights) total += w;
+        int roll = pick(total);
+        int op = 0;
+        while (roll >= weights[op]) roll -= weights[op++];
+        recent.push_back(std::to_string(step) + ": " + names[op] + " on " + t.path().name + ", tile " +
+                         std::to_string(t.store().current_index()) + " of " + std::to_string(t.store().tile_count()) +
+                         ", record " + std::to_string(t.history().position()) + " of " +
+                         std::to_string(t.history().count()) + ", step " + std::to_string(track.at) + " of " +
+                         std::to_string(track.steps.size()) +
+                         (g_editor->canvas().float_pending() ? ", floating" : ""));
+        if (recent.size() > 12) recent.pop_front();
+        const Seen before = op < 18 ? seen(t) : Seen{};
+        if (std::getenv("MOSSWICK_CHECKER_TRACE")) std::fprintf(stderr, "%s\n", recent.back().c_str());
+        switch (op) {
+            case 0: pen_dab(); break;
+            case 1: command(command_add_new_tile); break;
+            case 2: command(command_insert_new_tile); break;
+            case 3: command(command_delete_tile); break;
+            case 4: command(command_next_tile); break;
+            case 5: command(command_previous_tile); break;
+            case 6: select_rectangle(); break;
+            case 7: work_drag(); break;
+            case 8: command(command_copy); break;
+            case 9: command(command_cut); break;
+            case 10: command(command_paste); break;
+            case 11: command(command_clone); break;
+            case 12: command(command_deselect); break;
+            case 13: g_tool_options->set_selection_mode(pick(3)); break;
+            case 14: map_stroke(); break;
+            case 15: arrange_swap(); break;
+            case 16: switch_tab(); break;
+            case 17: save_and_load(track); break;
+            case 18: undo(track); break;
+            case 19: redo(track); break;
+            case 20: {
+                // Everything undone, then everything redone: back where it was.
+                const Seen start = seen(t);
+                const size_t back_to = track.steps.size() - track.at;  // steps after the floor may go
+                while (track.at > 0 && !HasFatalFailure()) undo(track);
+                while (track.steps.size() - track.at > back_to && !HasFatalFailure()) redo(track);
+                ASSERT_TRUE(seen(t) == start) << "undo all, redo all: " << describe(seen(t), start) << "\n" << log();
+                break;
+            }
+        }
+        if (HasFatalFailure()) return;
+        if (op < 18) follow(current(), &current() == &t ? before : seen(current()));
+        if (op == 16 && &t != g_editor->current()) follow(t, before);
+        if (HasFatalFailure()) return;
+        check_modified(track_of(current()));
+        if (HasFatalFailure()) return;
+    }
+    RecordProperty("steps", step);
+    std::printf("checker: seed %llu, %d steps\n", static_cast<unsigned long long>(seed), step);
+}
