@@ -205,7 +205,9 @@ int Main_Window::line_height() const { return writers[font_regular]->line_height
 int Main_Window::lines_on_screen() const { return int(h) / line_height(); }
 
 Texture* Main_Window::text_texture(const char* text, int font) {
-    const int width = image_pool->text_width(font, text);
+    // Nothing wider than this can show in the window, and a texture as wide
+    // as a very long text would be refused by the renderer.
+    const int width = std::min(image_pool->text_width(font, text), max_text_width);
     if (width <= 0) return nullptr;
     SDL_Surface* surface = SDL_CreateSurface(width, font_table[font].glyph_height, SDL_PIXELFORMAT_ARGB8888);
     if (!surface) return nullptr;
@@ -216,7 +218,7 @@ Texture* Main_Window::text_texture(const char* text, int font) {
 }
 
 Texture* Main_Window::text_texture_lines(const char* text, int font) {
-    const int width = writers[font]->measure(text);
+    const int width = std::min(writers[font]->measure(text), max_text_width);
     if (width <= 0) return nullptr;
     const std::string_view all(text);
     const int lines = 1 + int(std::count(all.begin(), all.end(), '\r'));

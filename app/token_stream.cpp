@@ -1,5 +1,7 @@
 #include "app/token_stream.h"
 
+#include <cstdio>
+
 #include <cstdlib>
 #include <limits>
 
@@ -55,6 +57,16 @@ bool Token_Stream::write_to(Data_File& file) {
         static_cast<unsigned char>(length >> 16), static_cast<unsigned char>(length >> 24)};
     const bool ok = file.write_block(prefix, sizeof prefix) == 1;
     return file.write_block(buffer.data(), buffer.size()) == 1 && ok;
+}
+
+bool Token_Stream::write_to(std::FILE* file) {
+    buffer += ':';
+    const uint32_t length = static_cast<uint32_t>(buffer.size());
+    const unsigned char prefix[4] = {
+        static_cast<unsigned char>(length), static_cast<unsigned char>(length >> 8),
+        static_cast<unsigned char>(length >> 16), static_cast<unsigned char>(length >> 24)};
+    const bool ok = std::fwrite(prefix, sizeof prefix, 1, file) == 1;
+    return (buffer.empty() || std::fwrite(buffer.data(), buffer.size(), 1, file) == 1) && ok;
 }
 
 void Token_Stream::read_from(Data_File& file) {

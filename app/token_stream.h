@@ -2,6 +2,7 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <cstdio>
 #include <string>
 #include <string_view>
 
@@ -34,6 +35,7 @@ public:
     // Appends ":" and writes the length and the text; returns false if the
     // block could not be written.
     bool write_to(Data_File& file);
+    bool write_to(std::FILE* file);
     // Reads the length and that many bytes, replacing the text and rewinding.
     // A short read ends the program with the block error naming the file.
     void read_from(Data_File& file);

@@ -10,6 +10,7 @@
 
 #include "app/data_file.h"
 #include "app/token_stream.h"
+#include "document/safe_file.h"
 #include "brushpad/brush_pad.h"
 
 namespace fs = std::filesystem;
@@ -107,38 +108,9 @@ std::string Brush_Pad_File::encode(const Brush_Pad& pad) {
 }
 
 bool Brush_Pad_File::save(Brush_Pad& pad, const std::string& path) {
-    std::error_code error;
-    const fs::path target = fs::path(path);
-    // A fresh name beside the target, so the rename never crosses file systems.
-    std::string temporary = (target.parent_path() / (target.filename().string() + ".XXXXXX")).string();
-    if (target.parent_path().empty()) temporary = target.filename().string() + ".XXXXXX";
-    const int fd = mkstemp(temporary.data());
-    if (fd < 0) return false;
-    close(fd);
-    bool written = false;
-    {
-        Data_File file(temporary);
-        if (file.open_write()) {
-            Token_Stream stream(encode(pad));
-            written = stream.write_to(file) && std::fflush(file.stream()) == 0 && fsync(fileno(file.stream())) == 0;
-            file.close();
-        }
-    }
-    if (written) {
-        // A new file is readable by all, as the program's other data files are.
-        fs::perms permissions = fs::status(target, error).permissions();
-        if (error || permissions == fs::perms::unknown)
-            permissions = fs::perms::owner_read | fs::perms::owner_write | fs::perms::group_read |
-                          fs::perms::others_read;
-        error.clear();
-        fs::permissions(temporary, permissions, error);
-        error.clear();
-        fs::rename(temporary, target, error);
-        if (!error) {
-            pad.mark_saved();
-            return true;
-        }
-    }
-    fs::remove(temporary, error);
-    return false;
+    Token_Stream stream(encode(pad));
+    if (!safe_file::written(path, [&](std::FILE* file) { return stream.write_to(file); }, safe_file::Links::follow))
+        return false;
+    pad.mark_saved();
+    return true;
 }

@@ -6,6 +6,7 @@
 
 #include "app/data_file.h"
 #include "app/token_stream.h"
+#include "document/safe_file.h"
 
 Palette* g_palette = nullptr;
 
@@ -70,15 +71,34 @@ void Palette::add_built_in_pages() {
     }
 }
 
-// Reads the page count, then per page its colour count and the next token as
-// its name. The colour tokens the writer puts between the count and the name
-// are not read back; this reading of the file is kept as it is.
+namespace {
+// A number of up to three digits, at most limit, at the start of a token;
+// its length, or 0 when the token does not start with one.
+size_t leading_number(std::string_view token, int limit, int& value) {
+    value = 0;
+    size_t n = 0;
+    while (n < token.size() && n < 3 && token[n] >= '0' && token[n] <= '9') {
+        const int next = value * 10 + (token[n] - '0');
+        if (next > limit) break;
+        value = next;
+        ++n;
+    }
+    return n;
+}
+}  // namespace
+
+// The file as the writer lays it out: the page count, then per page its
+// colour count, four channel numbers per colour and the name. A file read
+// that way must end exactly at its end; otherwise it is read in the older
+// way, which takes the token after each colour count as the page's name and
+// leaves its colours black (files that carry names only keep loading).
 // A damaged file must never keep the program from starting: counts beyond
 // what any palette needs leave the file unread (and untouched) and the
 // built-in pages take its place, with the reason kept for the debug log.
 void Palette::read(Data_File& file) {
     Token_Stream stream;
     stream.read_from(file);
+    if (read_as_written(stream)) return;
     const int32_t page_total = stream.read_number();
     if (page_total > maximum_pages) {
         refuse_file("too many pages");
@@ -96,14 +116,57 @@ void Palette::read(Data_File& file) {
     }
 }
 
+// A page's name follows its last channel (or its colour count, for a page
+// of no colours): after a "," in files written now, glued to that number in
+// files written before (",255Default,"), where the leading digits are the
+// number and the rest is the name.
+bool Palette::read_as_written(Token_Stream stream) {
+    int page_total = 0;
+    const std::string_view total_token = stream.read_token();
+    if (total_token.empty() || leading_number(total_token, maximum_pages, page_total) != total_token.size() ||
+        page_total <= 0)
+        return false;
+    std::vector<std::unique_ptr<Palette_Page>> read;
+    for (int i = 0; i < page_total; ++i) {
+        std::string_view token = stream.read_token();
+        int count = 0;
+        size_t digits = 0;
+        // Up to 256 colours: the count may have three digits.
+        while (digits < token.size() && digits < 3 && token[digits] >= '0' && token[digits] <= '9')
+            count = count * 10 + (token[digits++] - '0');
+        if (digits == 0 || count > maximum_page_colors) return false;
+        auto page = std::make_unique<Palette_Page>(std::string(), count);
+        std::string_view glued = token.substr(digits);
+        for (Color& c : page->colors) {
+            if (!glued.empty()) return false;
+            uint8_t channels[4];
+            for (uint8_t& channel : channels) {
+                token = stream.read_token();
+                int value = 0;
+                const size_t n = leading_number(token, 255, value);
+                if (n == 0 || (n < token.size() && &channel != &channels[3])) return false;
+                channel = uint8_t(value);
+                glued = token.substr(n);
+            }
+            c = Color(channels[0], channels[1], channels[2], channels[3]);
+        }
+        page->name = glued.empty() ? stream.read_text() : std::string(glued);
+        read.push_back(std::move(page));
+        // A name ends with "," and the next number starts with one; the last
+        // name is followed by the closing ":" alone.
+        if (!stream.read_token().empty()) return false;
+    }
+    if (!stream.at_end()) return false;
+    pages = std::move(read);
+    return true;
+}
+
 void Palette::refuse_file(const char* reason) {
     damage = reason;
     add_built_in_pages();
 }
 
 bool Palette::write() {
-    Data_File file(file_path);
-    if (!file.open_write()) return false;
     Token_Stream stream;
     stream.write_number(static_cast<int32_t>(pages.size()));
     for (const auto& page : pages) {
@@ -115,9 +178,10 @@ bool Palette::write() {
             stream.write_number(c.alpha);
         }
         if (page->name.empty()) page->name = empty_name_replacement;
+        // A "," before the name, so that it reads back apart from the last number.
+        stream.write_text("");
         stream.write_text(page->name);
     }
-    const bool written = stream.write_to(file);
-    file.close();
-    return written;
+    return safe_file::written(file_path, [&](std::FILE* file) { return stream.write_to(file); },
+                              safe_file::Links::follow);
 }

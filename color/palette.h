@@ -7,6 +7,7 @@
 #include "color/color.h"
 
 class Data_File;
+class Token_Stream;
 
 // One named set of colours; a new page's colours are opaque black.
 struct Palette_Page {
@@ -49,6 +50,9 @@ public:
     // Writes every page to the file; false when it cannot be opened. An empty
     // page name is replaced by "Rolololo", in the page too.
     bool write();
+    // The pages as the writer lays them out; false, reading nothing, when
+    // the text is not laid out that way.
+    bool read_as_written(Token_Stream stream);
 
 private:
     void add_built_in_pages();

@@ -7,6 +7,7 @@
 #include "app/debug_log.h"
 #include "app/globals.h"
 #include "app/main_window.h"
+#include "document/safe_file.h"
 #include "ui/backdrop.h"
 #include "ui/dialog_rows.h"
 #include "ui/message_box.h"
@@ -158,13 +159,11 @@ bool Dialog::save_data() {
         warn_user("Can't switch to 'data' directory.");
         return false;
     }
-    Data_File file(file_name);
-    if (file.open_write()) {
-        stream.write_to(file);
-        file.close();
-    } else {
-        warn_user("Can't save dialog data.");
-    }
+    // Written aside and moved into place: a full disk keeps the old file.
+    const bool written =
+        safe_file::written(file_name, [&](std::FILE* file) { return stream.write_to(file); }, safe_file::Links::follow);
+    // The dialog's values stand; only keeping them failed, and the user was told.
+    if (!written) warn_user("Can't save dialog data.");
     if (!was_inside) Data_Directory::leave();
     return true;
 }

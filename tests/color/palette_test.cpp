@@ -80,37 +80,49 @@ TEST(PaletteWriting, ChangedPaletteWritesEveryPageAsTokens) {
                 for (int channel : {c.red, c.green, c.blue, c.alpha})
                     expected += "," + std::to_string(channel);
             }
-            expected += palette.name(page) + ",";
+            expected += "," + palette.name(page) + ",";
         }
         expected += ":";
     }
     const std::string text = stored_text(path);
     EXPECT_EQ(text, expected);
     EXPECT_EQ(text.rfind("3,32,255,255,255,255,0,0,0,255,", 0), 0u);
-    EXPECT_NE(text.find(",174,0,153,255Default,,32,"), std::string::npos);
+    EXPECT_NE(text.find(",174,0,153,255,Default,,32,"), std::string::npos);
     EXPECT_NE(text.find(",1,2,3,4,"), std::string::npos);
     EXPECT_EQ(read_bytes(path).size(), 4 + text.size());
 }
 
-TEST(PaletteReading, ColourTokensAreNotReadBack) {
+TEST(PaletteReading, WhatIsWrittenReadsBackAndOlderFilesStillRead) {
     Scratch_Dir dir;
     const std::string path = dir.file("palette.dat");
     {
         Palette palette(path);
         palette.set_color(2, 0, Color(9, 9, 9));
+        palette.set_color(0, 31, Color(1, 2, 3, 0));
     }
     Palette reread(path);
-    // The written tokens run 3, 32, 255, 255, 255, 255, 0, 0, 0, 255, ...:
-    // the page count, then per page a colour count and the next token as name.
     ASSERT_EQ(reread.page_count(), 3);
-    EXPECT_EQ(reread.count(0), 32);
-    EXPECT_EQ(reread.name(0), "255");
-    EXPECT_EQ(reread.count(1), 255);
-    EXPECT_EQ(reread.name(1), "255");
-    EXPECT_EQ(reread.count(2), 255);
-    EXPECT_EQ(reread.name(2), "0");
-    for (int i = 0; i < 32; ++i) EXPECT_EQ(reread.color(0, i), Color(0, 0, 0));
+    EXPECT_EQ(reread.name(0), "Default");
+    EXPECT_EQ(reread.name(2), "MSX");
+    EXPECT_EQ(reread.color(2, 0), Color(9, 9, 9));
+    EXPECT_EQ(reread.color(0, 31), Color(1, 2, 3, 0));
+    EXPECT_EQ(reread.color(1, 1), Color(0, 0, 170));
     EXPECT_FALSE(reread.dirty());
+
+    // Written before: each name glued to the number before it, a page of no
+    // colours included; a file of names only is read as it always was.
+    write_palette_file(path, "2,1,10,20,30,255Warm,,0Empty,:");
+    Palette older(path);
+    ASSERT_EQ(older.page_count(), 2);
+    EXPECT_EQ(older.name(0), "Warm");
+    EXPECT_EQ(older.color(0, 0), Color(10, 20, 30));
+    EXPECT_EQ(older.name(1), "Empty");
+    EXPECT_EQ(older.count(1), 0);
+    write_palette_file(path, "2,4,Sky,2,Sea,:");
+    Palette names(path);
+    ASSERT_EQ(names.page_count(), 2);
+    EXPECT_EQ(names.name(1), "Sea");
+    EXPECT_EQ(names.color(0, 3), Color(0, 0, 0));
 }
 
 TEST(PaletteWriting, EmptyNameBecomesRolololo) {
@@ -125,7 +137,7 @@ TEST(PaletteWriting, EmptyNameBecomesRolololo) {
         ASSERT_TRUE(palette.write());
         EXPECT_EQ(palette.name(0), "Rolololo");
     }
-    EXPECT_EQ(stored_text(path), "1,2,0,0,0,255,5,6,7,255Rolololo,:");
+    EXPECT_EQ(stored_text(path), "1,2,0,0,0,255,5,6,7,255,Rolololo,:");
 }
 
 TEST(PaletteWriting, UnopenableFileIsSilentlySkipped) {
