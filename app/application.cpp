@@ -8,6 +8,7 @@
 #include <system_error>
 
 #include "app/brush_pad_pane.h"
+#include "app/data_file.h"
 #include "app/data_directory.h"
 #include "app/debug_log.h"
 #include "app/editor.h"
@@ -30,6 +31,8 @@
 namespace {
 // Why "brushpad.dat" was refused at start-up, told to the user over the first frame.
 std::string pad_damage;
+// The data folder, where damaged settings files are moved aside.
+std::string data_folder;
 }  // namespace
 
 int Application::main() {
@@ -55,7 +58,8 @@ void Application::start_up() {
     g_debug_log = new Debug_Log(size_t(screen_lines - 1));
     if (Data_Directory::enter(Data_Directory::data) <= 0) fatal_error("Unable to open 'data' directory.");
     std::error_code error;
-    recovery::set_folder((std::filesystem::current_path(error) / "recovery").string());
+    data_folder = std::filesystem::current_path(error).string();
+    recovery::set_folder((std::filesystem::path(data_folder) / "recovery").string());
     g_main_window = new Main_Window(Main_Window::default_width, Main_Window::default_height);
     set_tile_texture_maker(make_sdl_tile_texture);
     g_palette = new Palette();
@@ -80,6 +84,14 @@ void Application::start_up() {
 
 void Application::run() {
     std::string note = recovery::start_note(recovery::folder());
+    const std::vector<std::string> damaged = Data_File::damaged_files(data_folder);
+    if (!damaged.empty()) {
+        if (!note.empty()) note += "\r";
+        note += "A damaged settings file ended the last run. It was moved aside,\rand the program runs on defaults "
+                "instead:\r";
+        for (size_t i = 0; i < damaged.size() && i < 6; ++i) note += "  " + damaged[i] + "\r";
+        note += "in " + data_folder + "\rMove or delete them to stop this note.";
+    }
     if (!pad_damage.empty()) {
         if (!note.empty()) note += "\r";
         note += std::string("The brush pad file \"") + Brush_Pad_File::default_name + "\" was refused (" + pad_damage +
@@ -102,9 +114,18 @@ void Application::shut_down() {
     delete g_color_database;
     g_color_database = nullptr;
     Data_Directory::enter(Data_Directory::data);
+    if (!g_palette->save_if_changed() && g_message_box)
+        g_message_box->show_message(
+            "Error", "The palette could not be saved to \"palette.dat\": the colours\rchanged in this session are "
+                     "lost. The file keeps the colours it held.");
     delete g_palette;
     g_palette = nullptr;
-    g_tool_options->brush_pad().save_if_changed(Brush_Pad_File::default_name);
+    // The message box is still there to say that the new brushes are lost.
+    if (!g_tool_options->brush_pad().save_if_changed(Brush_Pad_File::default_name) &&
+        g_tool_options->brush_pad().has_unsaved_brushes() && g_message_box)
+        g_message_box->show_message(
+            "Error", "The brush pad could not be saved to \"brushpad.dat\": the brushes\rchanged in this "
+                     "session are lost. The file keeps the brushes it held.");
     delete g_tool_options;
     g_tool_options = nullptr;
     Data_Directory::leave();

@@ -58,6 +58,8 @@ public:
     // Writes the pad when it changed and its file was not refused.
     bool save_if_changed(const std::string& path);
     bool file_refused() const { return refused; }
+    // Changes that saving would keep: none while the file was refused.
+    bool has_unsaved_brushes() const { return !refused && pad.is_changed(); }
 
     // fallback is what the stamp draws with when nothing is chosen.
     void draw(const Tile* fallback);

@@ -1,5 +1,10 @@
 #include "app/data_file.h"
 
+#include <algorithm>
+#include <cstdio>
+#include <ctime>
+#include <filesystem>
+#include <system_error>
 #include <utility>
 
 #include "app/fatal.h"
@@ -25,8 +30,31 @@ void Data_File::close() {
 
 void Data_File::read_block(void* buffer, size_t size) {
     if (size == 0) return;
-    if (!open_mark || std::fread(buffer, size, 1, file) != 1)
-        fatal_error("Unable to load block from ", file_path.c_str());
+    if (open_mark && std::fread(buffer, size, 1, file) == 1) return;
+    if (settings) {
+        close();
+        std::rename(file_path.c_str(), damaged_name(file_path).c_str());
+    }
+    fatal_error("Unable to load block from ", file_path.c_str());
+}
+
+std::string Data_File::damaged_name(const std::string& path) {
+    const std::time_t now = std::time(nullptr);
+    std::tm local{};
+    localtime_r(&now, &local);
+    char stamp[32];
+    std::strftime(stamp, sizeof stamp, "%Y%m%d-%H%M%S", &local);
+    return path + ".damaged-" + stamp;
+}
+
+std::vector<std::string> Data_File::damaged_files(const std::string& folder) {
+    std::vector<std::string> found;
+    std::error_code error;
+    for (std::filesystem::directory_iterator it(folder, error), end; !error && it != end; it.increment(error))
+        if (it->path().filename().string().find(".damaged-") != std::string::npos)
+            found.push_back(it->path().filename().string());
+    std::sort(found.begin(), found.end());
+    return found;
 }
 
 size_t Data_File::write_block(const void* buffer, size_t size) {

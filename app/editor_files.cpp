@@ -1,7 +1,9 @@
 // Creating, loading, saving, exporting and closing tilesets.
 #include <SDL3/SDL.h>
 
+#include <filesystem>
 #include <memory>
+#include <system_error>
 #include <string>
 
 #include "app/canvas_view.h"
@@ -73,6 +75,14 @@ void Editor::save(bool save_as) {
 void Editor::load() {
     File_Path chosen = open.current() ? open.current()->path() : File_Path{};
     if (!choose_file(file_open_tileset, chosen)) return;
+    // A second copy would be saved over the first: its tab is shown instead.
+    std::error_code error;
+    for (int i = 0; i < open.count(); ++i)
+        if (std::filesystem::equivalent(open.at(i).path().full, chosen.full, error)) {
+            open.make_current(open.at(i));
+            relayout();
+            return;
+        }
     if (!open.open_file(chosen.full)) {
         g_message_box->show_message("Error", Tileset_File::load_error_text);
         return;

@@ -3,12 +3,16 @@
 #include <algorithm>
 #include <ctime>
 #include <filesystem>
+#include <memory>
 #include <system_error>
 
 #include "app/canvas_view.h"
 #include "app/editor.h"
+#include "app/image.h"
+#include "app/map_files.h"
 #include "document/tileset.h"
 #include "document/tileset_file.h"
+#include "mapeditor/map_file.h"
 
 namespace fs = std::filesystem;
 
@@ -54,7 +58,20 @@ void save_open_work() {
         Tileset& t = open.at(i);
         if (!t.is_modified()) continue;
         const std::string name = t.path().name.empty() ? "tileset" : t.path().name;
-        Tileset_File::write(t.store(), free_name(name + "-" + stamp));
+        const std::string path = free_name(name + "-" + stamp);
+        // The tile as the user sees it: a floating image put down in the copy.
+        std::unique_ptr<Tile> shown;
+        if (&t == g_editor->current() && g_editor->canvas().tile() == t.store().current_tile())
+            shown = g_editor->canvas().tile_as_shown();
+        Tileset_File::write(t.store(), path, shown.get());
+        // The map beside it, with its sheet, so that loading the copy brings the map too.
+        if (!t.map().map().is_blank()) {
+            const Tile_Store& store = t.store();
+            Image sheet(16 * store.tile_width(), 16 * store.tile_height());
+            compose_sheet(store, sheet);
+            sheet.save_bmp(Map_File::sheet_path(path), false);
+            Map_File::write(t.map().map(), store.tile_width(), store.tile_height(), Map_File::map_path(path));
+        }
     }
 }
 

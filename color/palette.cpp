@@ -46,6 +46,7 @@ const Built_In_Page built_in_pages[] = {
 
 Palette::Palette(std::string path) : file_path(std::move(path)) {
     Data_File file(file_path);
+    file.set_settings_file(true);
     if (!file.open_read()) {
         add_built_in_pages();
         return;
@@ -56,6 +57,13 @@ Palette::Palette(std::string path) : file_path(std::move(path)) {
 
 Palette::~Palette() {
     if (changed) write();
+}
+
+bool Palette::save_if_changed() {
+    if (!changed) return true;
+    // Tried once: the destructor does not try again.
+    changed = false;
+    return write();
 }
 
 void Palette::set_color(int page, int index, Color c) {

@@ -43,6 +43,8 @@ public:
     void set_color(int page, int index, Color c);
     int page_count() const { return static_cast<int>(pages.size()); }
     bool dirty() const { return changed; }
+    // Writes the file now when a colour changed; false when that failed.
+    bool save_if_changed();
     // Why the file was not used (it is left as it is), or empty; start-up
     // logs it as a warning.
     const std::string& damage_report() const { return damage; }

@@ -38,6 +38,12 @@ Stamp stamp_of(const std::string& path) {
     return stamp;
 }
 
+std::string link_target(const std::string& path) {
+    std::error_code error;
+    const fs::path real = fs::canonical(path, error);
+    return error ? path : real.string();
+}
+
 bool is_plain_file(const std::string& path) {
     struct stat info {};
     return lstat(path.c_str(), &info) == 0 && S_ISREG(info.st_mode);

@@ -41,6 +41,8 @@ Stamp stamp_of(const std::string& path);
 
 // A regular file (not a link, a folder, a pipe or a device) stands at the path.
 bool is_plain_file(const std::string& path);
+// The file a link points at (the path itself when it is no link).
+std::string link_target(const std::string& path);
 
 // For tests: make one step of every following write fail as a full disk, a
 // failed sync or a failed rename would (none: no fault).

@@ -88,6 +88,8 @@ int32_t Tileset_File::write(const Tile_Store& store, const std::string& path, co
 }
 
 std::unique_ptr<Tile_Store> Tileset_File::read(const std::string& path) {
+    // A pipe or a device would never end (or never start): only regular files.
+    if (!safe_file::is_plain_file(path) && !safe_file::is_plain_file(safe_file::link_target(path))) return nullptr;
     Data_File file(path);
     if (!file.open_read()) return nullptr;
     // Records are read whole straight into the tiles; a stream buffer would
@@ -102,6 +104,8 @@ std::unique_ptr<Tile_Store> Tileset_File::read(const std::string& path) {
                            uint32_t(header[10]) << 24;
     // The rest of the program needs at least one tile of non-zero size.
     if (width == 0 || height == 0 || count == 0) return nullptr;
+    // Far more tiles than a tileset holds are refused before any is made.
+    if (count > maximum_tiles_read) return nullptr;
     auto store = std::make_unique<Tile_Store>(width, height, Tileset::maximum_tiles);
     // One record at a time: a count far beyond the file's real length fails
     // on the first missing record, not by reserving memory for all of them.

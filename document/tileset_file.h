@@ -12,6 +12,9 @@
 class Tileset_File {
 public:
     static constexpr uint32_t header_size = 11;
+    // A file may hold more tiles than a tileset can take (they load, but no
+    // more can be added), up to this many; beyond, it is refused.
+    static constexpr uint32_t maximum_tiles_read = 4096;
     static constexpr const char* load_error_text =
         "Error occurred in tileset loading. This file may not be in Mosswick format.";
     static constexpr const char* save_error_text =
@@ -24,8 +27,9 @@ public:
     // the user sees it, with a floating image put down).
     static int32_t write(const Tile_Store& store, const std::string& path, const Tile* current = nullptr);
 
-    // The tiles of the file, or none when it cannot be opened, does not start
-    // with "WST", or has a zero tile width, height or count; the caller shows
+    // The tiles of the file, or none when it is no regular file, cannot be
+    // opened, does not start with "WST", has a zero tile width, height or
+    // count, or more than maximum_tiles_read tiles; the caller shows
     // load_error_text then. A header or tile record shorter than expected ends
     // the program with the block error naming the path.
     static std::unique_ptr<Tile_Store> read(const std::string& path);

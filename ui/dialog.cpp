@@ -141,6 +141,7 @@ void Dialog::load_data() {
     const bool was_inside = Data_Directory::current() == Data_Directory::data;
     if (!was_inside && Data_Directory::enter(Data_Directory::data) <= 0) return;
     Data_File file(file_name);
+    file.set_settings_file(true);
     if (file.open_read()) {
         Token_Stream stream;
         stream.read_from(file);
