@@ -4,9 +4,12 @@
 #include <cerrno>
 #include <cstdio>
 #include <cstring>
+#include <filesystem>
+#include <system_error>
 #include <vector>
 
 #include "app/data_file.h"
+#include "app/fatal.h"
 #include "document/safe_file.h"
 #include "document/tileset.h"
 
@@ -104,8 +107,15 @@ std::unique_ptr<Tile_Store> Tileset_File::read(const std::string& path) {
                            uint32_t(header[10]) << 24;
     // The rest of the program needs at least one tile of non-zero size.
     if (width == 0 || height == 0 || count == 0) return nullptr;
-    // Far more tiles than a tileset holds are refused before any is made.
-    if (count > maximum_tiles_read) return nullptr;
+    // Far more tiles than a tileset holds are refused before any is made; a
+    // file too short for them is the truncated file it is.
+    if (count > maximum_tiles_read) {
+        std::error_code error;
+        const uintmax_t size = std::filesystem::file_size(path, error);
+        if (error || size < header_size + uintmax_t(count) * width * height * 4)
+            fatal_error("Unable to load block from ", path.c_str());
+        return nullptr;
+    }
     auto store = std::make_unique<Tile_Store>(width, height, Tileset::maximum_tiles);
     // One record at a time: a count far beyond the file's real length fails
     // on the first missing record, not by reserving memory for all of them.

@@ -26,5 +26,15 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
     }
     if (placed != r.cells) std::abort();
     if (r.whole != r.problems.empty()) std::abort();
+    // Written back into the same text (only the tile layer is replaced), the
+    // map reads back cell for cell.
+    static const std::string out = (fuzz::private_dir() / "output.tmx").string();
+    const std::string source(reinterpret_cast<const char*>(data), size);
+    if (!Map_File::write(map.map(), 24, 24, out, source)) std::abort();
+    Map_Editor back(24, 24);
+    const Map_File::Reading again = Map_File::read(out, back, 24, 24, tile_count);
+    for (int c = 0; c < map.map().cell_count(); ++c)
+        if (back.map().at(c) != map.map().at(c)) std::abort();
+    if (!again.found) std::abort();
     return 0;
 }

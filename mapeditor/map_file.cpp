@@ -4,11 +4,14 @@
 
 #include <algorithm>
 #include <cstdio>
+#include <cstdlib>
+#include <vector>
 #include <filesystem>
 #include <string>
 
 #include "document/safe_file.h"
 #include "mapeditor/map_editor.h"
+#include "mapeditor/map_text.h"
 
 namespace {
 // Tiled keeps flip and rotation flags in a cell's top bits.
@@ -151,45 +154,8 @@ void layer_size(const XMLElement* layer, const Tile_Map& map, int& columns, int&
 }
 }  // namespace
 
-bool Map_File::write(const Tile_Map& map, uint32_t tile_width, uint32_t tile_height, const std::string& path,
-                     const std::string& source) {
-    XMLDocument doc(true, PRESERVE_WHITESPACE);
-    XMLElement* root = nullptr;
-    if (!source.empty() && doc.Parse(source.c_str(), source.size()) == XML_SUCCESS && doc.RootElement() &&
-        std::string(doc.RootElement()->Name()) == "map") {
-        root = doc.RootElement();
-    } else {
-        doc.Clear();
-        root = new_map(doc, file_name(sheet_path(path)), tile_width, tile_height);
-    }
-    // A loader of one game engine refuses maps without it.
-    if (!root->Attribute("tiledversion")) root->SetAttribute("tiledversion", tiled_version);
-    XMLElement* layer = tile_layer(root);
-    int columns = 0;
-    int rows = 0;
-    layer_size(layer, map, columns, rows);
-    if (!layer) layer = add_tile_layer(root);
-    layer->SetAttribute("width", columns);
-    layer->SetAttribute("height", rows);
-    int map_columns = 0;
-    int map_rows = 0;
-    root->QueryIntAttribute("width", &map_columns);
-    root->QueryIntAttribute("height", &map_rows);
-    root->SetAttribute("width", std::max(map_columns, columns));
-    root->SetAttribute("height", std::max(map_rows, rows));
-    // Written as a map of a fixed size: its cells are all in the one layer now.
-    if (root->Attribute("infinite")) root->SetAttribute("infinite", 0);
-    const XMLElement* first_tileset = root->FirstChildElement("tileset");
-    int first_gid = 1;
-    if (first_tileset) first_tileset->QueryIntAttribute("firstgid", &first_gid);
-
-    XMLElement* data = layer->FirstChildElement("data");
-    if (data)
-        data->DeleteChildren();
-    else
-        data = layer->InsertNewChildElement("data");
-    data->DeleteAttribute("compression");
-    data->SetAttribute("encoding", "csv");
+namespace {
+std::string csv_of(const Tile_Map& map, int columns, int rows, int first_gid) {
     std::string csv = "\n";
     for (int y = 0; y < rows; ++y) {
         for (int x = 0; x < columns; ++x) {
@@ -199,14 +165,137 @@ bool Map_File::write(const Tile_Map& map, uint32_t tile_width, uint32_t tile_hei
         }
         csv += '\n';
     }
-    data->SetText(csv.c_str());
+    return csv;
+}
 
-    XMLPrinter printer(nullptr, source.empty() ? false : true);
+struct Edit {
+    size_t at;
+    size_t length;
+    std::string text;
+};
+
+// The source with only the map's tag and its first tile layer's cells
+// replaced; empty when the source is no map this can edit.
+std::string edited(const std::string& source, const Tile_Map& map, uint32_t tile_width, uint32_t tile_height,
+                   const std::string& sheet) {
+    XMLDocument doc;
+    if (doc.Parse(source.c_str(), source.size()) != XML_SUCCESS || !doc.RootElement() ||
+        std::string(doc.RootElement()->Name()) != "map")
+        return {};
+    const map_text::Element root = map_text::child(source, 0, source.size(), "map");
+    if (!root.found || root.empty) return {};
+    XMLElement* root_element = doc.RootElement();
+    int first_gid = 1;
+    if (const XMLElement* tileset = root_element->FirstChildElement("tileset"))
+        tileset->QueryIntAttribute("firstgid", &first_gid);
+    int columns = 0;
+    int rows = 0;
+    layer_size(tile_layer(root_element), map, columns, rows);
+    const std::string csv = csv_of(map, columns, rows, first_gid);
+    const std::string data = "<data encoding=\"csv\">" + csv + "</data>";
+
+    std::vector<Edit> edits;
+    std::string root_tag = source.substr(root.tag_begin, root.tag_end - root.tag_begin);
+    const map_text::Element layer = map_text::child(source, root.tag_end, root.content_end, "layer");
+    auto sized = [&](std::string tag) {
+        if (map_text::attribute(tag, "width") != std::to_string(columns)) tag = map_text::with_attribute(tag, "width", std::to_string(columns));
+        if (map_text::attribute(tag, "height") != std::to_string(rows)) tag = map_text::with_attribute(tag, "height", std::to_string(rows));
+        return tag;
+    };
+    if (!layer.found) {
+        int id = 1;
+        root_element->QueryIntAttribute("nextlayerid", &id);
+        root_tag = map_text::with_attribute(root_tag, "nextlayerid", std::to_string(id + 1));
+        edits.push_back({root.content_end, 0,
+                         " <layer id=\"" + std::to_string(id) + "\" name=\"Tiles\" width=\"" + std::to_string(columns) +
+                             "\" height=\"" + std::to_string(rows) + "\">\n  " + data + "\n </layer>\n"});
+    } else {
+        const std::string tag = source.substr(layer.tag_begin, layer.tag_end - layer.tag_begin);
+        if (layer.empty) {
+            const std::string open = sized(tag.substr(0, tag.size() - 2) + ">");
+            edits.push_back({layer.tag_begin, layer.end - layer.tag_begin, open + data + "</layer>"});
+        } else {
+            const std::string new_tag = sized(tag);
+            if (new_tag != tag) edits.push_back({layer.tag_begin, tag.size(), new_tag});
+            const map_text::Element cells = map_text::child(source, layer.tag_end, layer.content_end, "data");
+            if (!cells.found) {
+                edits.push_back({layer.content_end, 0, data});
+            } else {
+                const std::string data_tag = source.substr(cells.tag_begin, cells.tag_end - cells.tag_begin);
+                const bool csv_already = map_text::attribute(data_tag, "encoding") == "csv" &&
+                                         map_text::attribute(data_tag, "compression").empty() && !cells.empty;
+                if (csv_already)
+                    edits.push_back({cells.tag_end, cells.content_end - cells.tag_end, csv});
+                else
+                    edits.push_back({cells.tag_begin, cells.end - cells.tag_begin, data});
+            }
+        }
+    }
+    // The cells are this tileset's tiles, at its size; so is the sheet's
+    // tileset, when the map draws from the sheet written beside it.
+    const std::string w = std::to_string(tile_width);
+    const std::string h = std::to_string(tile_height);
+    if (map_text::attribute(root_tag, "tilewidth") != w) root_tag = map_text::with_attribute(root_tag, "tilewidth", w);
+    if (map_text::attribute(root_tag, "tileheight") != h) root_tag = map_text::with_attribute(root_tag, "tileheight", h);
+    const map_text::Element tileset = map_text::child(source, root.tag_end, root.content_end, "tileset");
+    if (tileset.found && !tileset.empty) {
+        const map_text::Element image = map_text::child(source, tileset.tag_end, tileset.content_end, "image");
+        const std::string image_tag =
+            image.found ? source.substr(image.tag_begin, image.tag_end - image.tag_begin) : std::string();
+        const std::string tileset_tag = source.substr(tileset.tag_begin, tileset.tag_end - tileset.tag_begin);
+        if (image.found && map_text::attribute(image_tag, "source") == sheet &&
+            map_text::attribute(tileset_tag, "tilewidth") != w) {
+            std::string t = map_text::with_attribute(tileset_tag, "tilewidth", w);
+            t = map_text::with_attribute(t, "tileheight", h);
+            std::string i = map_text::with_attribute(image_tag, "width", std::to_string(Map_File::sheet_columns * tile_width));
+            i = map_text::with_attribute(i, "height", std::to_string(Map_File::sheet_rows * tile_height));
+            edits.push_back({tileset.tag_begin, tileset_tag.size(), t});
+            edits.push_back({image.tag_begin, image_tag.size(), i});
+        }
+    }
+    // A loader of one game engine refuses maps without it.
+    if (map_text::attribute(root_tag, "tiledversion").empty())
+        root_tag = map_text::with_attribute(root_tag, "tiledversion", Map_File::tiled_version);
+    const int map_columns = std::atoi(map_text::attribute(root_tag, "width").c_str());
+    const int map_rows = std::atoi(map_text::attribute(root_tag, "height").c_str());
+    if (columns > map_columns) root_tag = map_text::with_attribute(root_tag, "width", std::to_string(columns));
+    if (rows > map_rows) root_tag = map_text::with_attribute(root_tag, "height", std::to_string(rows));
+    // Its cells are all in the one layer of a fixed size now.
+    if (!map_text::attribute(root_tag, "infinite").empty() && map_text::attribute(root_tag, "infinite") != "0")
+        root_tag = map_text::with_attribute(root_tag, "infinite", "0");
+    edits.push_back({root.tag_begin, root.tag_end - root.tag_begin, root_tag});
+
+    std::string out = source;
+    std::sort(edits.begin(), edits.end(), [](const Edit& a, const Edit& b) { return a.at > b.at; });
+    for (const Edit& e : edits) out.replace(e.at, e.length, e.text);
+    return out;
+}
+
+std::string new_file(const Tile_Map& map, uint32_t tile_width, uint32_t tile_height, const std::string& path) {
+    XMLDocument doc;
+    XMLElement* root = new_map(doc, file_name(Map_File::sheet_path(path)), tile_width, tile_height);
+    XMLElement* layer = add_tile_layer(root);
+    layer->SetAttribute("width", map.columns());
+    layer->SetAttribute("height", map.rows());
+    root->SetAttribute("width", map.columns());
+    root->SetAttribute("height", map.rows());
+    XMLElement* data = layer->InsertNewChildElement("data");
+    data->SetAttribute("encoding", "csv");
+    data->SetText(csv_of(map, map.columns(), map.rows(), 1).c_str());
+    XMLPrinter printer;
     doc.Print(&printer);
-    const size_t size = size_t(printer.CStrSize() > 0 ? printer.CStrSize() - 1 : 0);
+    return std::string(printer.CStr(), size_t(printer.CStrSize() > 0 ? printer.CStrSize() - 1 : 0));
+}
+}  // namespace
+
+bool Map_File::write(const Tile_Map& map, uint32_t tile_width, uint32_t tile_height, const std::string& path,
+                     const std::string& source) {
+    std::string text =
+        source.empty() ? std::string() : edited(source, map, tile_width, tile_height, file_name(sheet_path(path)));
+    if (text.empty()) text = new_file(map, tile_width, tile_height, path);
     // A derived name: never written through a link there.
     return safe_file::written(
-        path, [&](std::FILE* file) { return std::fwrite(printer.CStr(), 1, size, file) == size; },
+        path, [&](std::FILE* file) { return std::fwrite(text.data(), 1, text.size(), file) == text.size(); },
         safe_file::Links::refuse);
 }
 

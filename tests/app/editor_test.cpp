@@ -241,7 +241,13 @@ TEST_F(EditorTest, SaveAfterLoadAsksForANameAndSavesUnderTheForcedExtension) {
     g_editor->execute(command_save);
     EXPECT_EQ(chooser.calls, 0);
 
+    // The file open in a tab is not opened twice: its tab is shown.
     chooser.path = saved;
+    g_editor->execute(command_load);
+    EXPECT_EQ(g_editor->tilesets().count(), 1);
+    const std::string copy = (dir.path / "copy.wst").string();
+    std::filesystem::copy_file(saved, copy);
+    chooser.path = copy;
     g_editor->execute(command_load);
     ASSERT_EQ(g_editor->tilesets().count(), 2);
     EXPECT_EQ(g_editor->current()->store().tile_count(), 2);

@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <sys/resource.h>
+#include <sys/stat.h>
 
 #include <csignal>
 #include <filesystem>
@@ -218,6 +219,15 @@ TEST(TilesetFileReading, RefusedFilesGiveNoTiles) {
         write_bytes(path, refused[i]);
         EXPECT_FALSE(Tileset_File::read(path)) << "file " << i;
     }
+    // A whole file of a million 1 x 1 tiles: refused before a tile is made.
+    Bytes million{'W', 'S', 'T', 0x0A, 0, 1, 1, 0x40, 0x42, 0x0F, 0};
+    million.resize(11 + 1000000 * 4, 0x7F);
+    write_bytes(dir.file("million.wst"), million);
+    EXPECT_FALSE(Tileset_File::read(dir.file("million.wst")));
+    // A pipe would never end, a folder is no file: refused, not read.
+    ASSERT_EQ(mkfifo(dir.file("pipe.wst").c_str(), 0600), 0);
+    EXPECT_FALSE(Tileset_File::read(dir.file("pipe.wst")));
+    EXPECT_FALSE(Tileset_File::read(dir.path()));
 }
 
 TEST(TilesetFileReadingDeathTest, EveryTruncationEndsWithTheBlockError) {

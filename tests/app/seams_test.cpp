@@ -1,0 +1,305 @@
+// Where two parts of the editor meet: the tile list and the undo history,
+// the floating image and Save, the map and its file, the tabs.
+#include <gtest/gtest.h>
+
+#include <sys/stat.h>
+
+#include <filesystem>
+#include <fstream>
+
+#include "app/canvas_view.h"
+#include "app/commands.h"
+#include "app/editor.h"
+#include "app/file_dialog.h"
+#include "app/map_files.h"
+#include "app/tool_options.h"
+#include "app/undo_control.h"
+#include "document/tileset.h"
+#include "document/tileset_file.h"
+#include "mapeditor/map_file.h"
+#include "selection/editor/selection_tools.h"
+#include "support/editor_fixture.h"
+#include "ui/event_script.h"
+
+namespace fs = std::filesystem;
+
+namespace {
+const Color blue(0, 0, 255);
+const Color red(255, 0, 0);
+const Color green(0, 255, 0);
+
+std::vector<Color> colours(const Tile_Store& store) {
+    std::vector<Color> out;
+    for (const auto& tile : store.all()) out.push_back(tile->get_pixel(0, 0));
+    return out;
+}
+
+std::string text_of(const fs::path& path) {
+    std::ifstream in(path, std::ios::binary);
+    return std::string(std::istreambuf_iterator<char>(in), {});
+}
+}  // namespace
+
+class SeamsTest : public Editor_Fixture {
+protected:
+    void TearDown() override {
+        set_file_chooser(nullptr);
+        Headless::TearDown();
+    }
+    Tileset& tileset() { return *g_editor->current(); }
+    Tile_Store& store() { return tileset().store(); }
+    // Tiles of the given colours, the first one current.
+    void make_tiles(std::initializer_list<Color> list) {
+        bool first = true;
+        for (const Color c : list) {
+            if (!first) store().add_tile();
+            store().current_tile()->fill(c);
+            store().current_tile()->update_texture();
+            first = false;
+        }
+        store().go_to(0);
+        tileset().history().restart(store());
+        g_editor->canvas().set_tile(store().current_tile());
+    }
+    static void run(int command) {
+        Event_Script script;
+        for (int i = 0; i < 3; ++i) script.then([] { push_key(SDLK_ESCAPE); });
+        g_editor->run_command(command);
+        drop_pending_events();
+    }
+    void save_as(const fs::path& path) {
+        set_file_chooser([path](int, const std::string&, std::string& chosen) {
+            chosen = path.string();
+            return int(file_chosen);
+        });
+        run(command_save_as);
+    }
+    Temp_Dir dir;
+};
+
+TEST_F(SeamsTest, UndoAndRedoOfTheTileListGiveBackTheTilesInOrderWithTheirMapCells) {
+    make_tiles({blue, red, green});
+    const std::vector<Color> start = colours(store());
+    for (const int command : {command_add_new_tile, command_insert_new_tile, command_delete_tile}) {
+        run(command);
+        const std::vector<Color> after = colours(store());
+        run(command_undo);
+        EXPECT_EQ(colours(store()), start) << commands::name(command);
+        run(command_redo);
+        EXPECT_EQ(colours(store()), after) << commands::name(command);
+        run(command_undo);
+    }
+
+    // The cells that named a deleted tile come back with it, also after a
+    // redo; a cell painted anew while the tile was away keeps its tile.
+    Map_Editor& map = tileset().map();
+    map.place(0, 0, 1);
+    map.place(3, 2, 1);
+    map.place(4, 4, 2);
+    store().go_to(1);
+    g_editor->canvas().set_tile(store().current_tile());
+    run(command_delete_tile);
+    EXPECT_EQ(map.map().at(0, 0), Tile_Map::empty);
+    EXPECT_EQ(map.map().at(4, 4), 1);
+    map.place(3, 2, 0);
+    run(command_undo);
+    EXPECT_EQ(colours(store()), start);
+    EXPECT_EQ(map.map().at(0, 0), 1);
+    EXPECT_EQ(map.map().at(3, 2), 0);
+    EXPECT_EQ(map.map().at(4, 4), 2);
+    run(command_redo);
+    run(command_undo);
+    EXPECT_EQ(map.map().at(0, 0), 1);
+
+    // With one tile, delete clears it and redo clears it again.
+    ASSERT_TRUE(g_editor->tilesets().new_tileset(8, 8));
+    make_tiles({red});
+    run(command_delete_tile);
+    run(command_undo);
+    EXPECT_EQ(colours(store()), std::vector<Color>{red});
+    run(command_redo);
+    EXPECT_EQ(colours(store()), std::vector<Color>{Color(0, 0, 0, 0)});
+}
+
+TEST_F(SeamsTest, SaveWritesAFloatingImageWhereItIsSeenAndTabsKeepTheirTiles) {
+    make_tiles({blue, red});
+    Canvas_View& view = g_editor->canvas();
+    // The top-left 2 x 2 of the blue tile lifted and moved to (10, 10).
+    for (int y = 0; y < 2; ++y)
+        for (int x = 0; x < 2; ++x) view.selection()->set_pixel(x, y, Color(255, 255, 255));
+    view.set_has_selection(true);
+    ASSERT_TRUE(g_editor->selection().float_selection(true));
+    view.move_float(10, 10);
+    g_editor->undo().record(command_work_selection);
+    ASSERT_TRUE(tileset().is_modified());
+    const fs::path path = dir.path / "moved.wst";
+    save_as(path);
+    EXPECT_FALSE(tileset().is_modified());
+    EXPECT_TRUE(view.float_pending()) << "the image still floats, ready to move";
+    const std::unique_ptr<Tile_Store> saved = Tileset_File::read(path.string());
+    ASSERT_NE(saved, nullptr);
+    EXPECT_EQ(saved->tile_at(0)->get_pixel(10, 10), blue);
+    EXPECT_EQ(saved->tile_at(0)->get_pixel(0, 0), Color(0, 0, 0, 0)) << "lifted from there";
+    view.move_float(12, 12);
+    g_editor->undo().record(command_work_selection);
+    EXPECT_TRUE(tileset().is_modified()) << "Quit and Close warn again";
+
+    // Persistent: the image goes to another tab and lands on the tile shown
+    // there, which is the one left current in that tab, not the first.
+    g_tool_options->set_selection_mode(Selection_Tools::persistent);
+    Tileset& first = tileset();
+    ASSERT_TRUE(g_editor->tilesets().new_tileset(24, 24));
+    Tileset& second = tileset();
+    second.store().add_tile();
+    g_editor->tilesets().make_current(first);
+    g_editor->tilesets().make_current(second);
+    EXPECT_EQ(second.store().current_index(), 1);
+    EXPECT_EQ(view.tile(), second.store().tile_at(1));
+    ASSERT_TRUE(view.float_pending());
+    run(command_deselect);
+    EXPECT_EQ(second.store().tile_at(1)->get_pixel(12, 12), blue);
+    // Each tab's history holds its side: undo in the first brings the image back there.
+    g_editor->tilesets().make_current(first);
+    run(command_undo);
+    EXPECT_TRUE(view.float_pending());
+}
+
+TEST_F(SeamsTest, AnImageLargerThanTheTileIsCutNotScrambled) {
+    ASSERT_TRUE(g_editor->tilesets().new_tileset(8, 8));
+    Tile big(12, 12);
+    for (int y = 0; y < 12; ++y)
+        for (int x = 0; x < 12; ++x) big.set_pixel(x, y, Color(uint8_t(x * 20), uint8_t(y * 20), 7));
+    Canvas_View& view = g_editor->canvas();
+    view.paste(big, -2, -2);  // centred: two pixels over every edge
+    run(command_deselect);
+    const Tile& tile = *store().current_tile();
+    for (int y = 0; y < 8; ++y)
+        for (int x = 0; x < 8; ++x)
+            ASSERT_EQ(tile.get_pixel(x, y), big.get_pixel(x + 2, y + 2)) << x << ", " << y;
+}
+
+// A map file written by other map tools keeps everything this editor does
+// not edit; a file changed on disk, or a foreign one, is replaced only after
+// a yes, and while the map is unsaved the tileset stays marked modified.
+TEST_F(SeamsTest, TheMapFileKeepsWhatOtherToolsWroteAndIsNeverLostOrRemoved) {
+    const fs::path wst = dir.path / "level.1.wst";
+    const fs::path tmx = dir.path / "level.1.tmx";
+    const std::string objects =
+        "  <objectgroup id=\"3\" name=\"Spawns\" opacity=\"0.5\" offsetx=\"4\" tintcolor=\"#ff0000\">\n"
+        "   <object id=\"1\" x=\"8\" y=\"16\"><properties><property name=\"kind\" value=\"bat &amp; ball\"/>"
+        "</properties></object>\n  </objectgroup>\n";
+    const std::string foreign =
+        "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n"
+        "<map version=\"1.10\" tiledversion=\"1.11.0\" orientation=\"orthogonal\" renderorder=\"right-down\" "
+        "width=\"5\" height=\"4\" tilewidth=\"24\" tileheight=\"24\" infinite=\"0\" nextlayerid=\"5\" "
+        "nextobjectid=\"2\">\n <properties>\n  <property name=\"music\" value=\"cave.ogg\"/>\n </properties>\n"
+        " <tileset firstgid=\"1\" source=\"terrain.tsx\"/>\n"
+        " <layer id=\"1\" name=\"Ground\" width=\"5\" height=\"4\" opacity=\"0.8\">\n  <data encoding=\"csv\">\n"
+        "1,2,0,0,0,\n0,0,0,0,0,\n0,0,0,0,0,\n0,0,0,0,2\n</data>\n </layer>\n" +
+        objects + " <imagelayer id=\"4\" name=\"Sky\"><image source=\"sky.png\"/></imagelayer>\n</map>\n";
+    make_tiles({blue, red});
+    Tileset_File::write(store(), wst.string());
+    std::ofstream(tmx, std::ios::binary) << foreign;
+    ASSERT_TRUE(g_editor->tilesets().open_file(wst.string()));
+    load_map(tileset());
+    Tileset& t = tileset();
+    EXPECT_FALSE(t.is_modified());
+    EXPECT_EQ(t.map().map().at(1, 0), 1);
+    EXPECT_EQ(t.map().map().at(4, 3), 1);
+
+    // Saving the tiles alone leaves the map file and the sheet name alone.
+    t.set_path(wst.string());
+    t.set_modified();
+    run(command_save);
+    EXPECT_EQ(text_of(tmx), foreign);
+    EXPECT_FALSE(fs::exists(dir.path / "level.1.bmp")) << "the map draws from terrain.tsx, not the sheet";
+
+    // A painted cell is written into the tile layer; the rest stays as it was.
+    t.map().place(2, 1, 0);
+    EXPECT_TRUE(t.is_modified());
+    run(command_save);
+    const std::string after = text_of(tmx);
+    EXPECT_NE(after.find(objects), std::string::npos) << after;
+    EXPECT_NE(after.find("<imagelayer id=\"4\" name=\"Sky\"><image source=\"sky.png\"/></imagelayer>"),
+              std::string::npos);
+    EXPECT_NE(after.find("<property name=\"music\" value=\"cave.ogg\"/>"), std::string::npos);
+    EXPECT_NE(after.find("opacity=\"0.8\""), std::string::npos);
+    EXPECT_NE(after.find("0,0,1,0,0"), std::string::npos) << after;
+    EXPECT_FALSE(t.is_modified());
+
+    // Changed by another tool: the question; no keeps the file and the mark.
+    std::ofstream(tmx, std::ios::binary | std::ios::app) << "<!-- edited elsewhere -->\n";
+    const std::string edited = text_of(tmx);
+    t.map().place(3, 1, 0);
+    Event_Script script;
+    script.then([] { push_key(SDLK_ESCAPE); });
+    g_editor->run_command(command_save);
+    EXPECT_EQ(script.left(), 0u) << "no question was asked";
+    EXPECT_EQ(text_of(tmx), edited);
+    EXPECT_TRUE(t.is_modified()) << "the map is not saved: Quit and Close must warn";
+    script.then([] { push_key(SDLK_Y); });
+    g_editor->run_command(command_save);
+    EXPECT_NE(text_of(tmx).find("<!-- edited elsewhere -->"), std::string::npos);
+    EXPECT_FALSE(t.is_modified());
+
+    // An emptied map is written empty, never removed; a new size keeps the cells that fit.
+    for (int x = 0; x < 5; ++x)
+        for (int y = 0; y < 4; ++y) t.map().place(x, y, Tile_Map::empty);
+    run(command_save);
+    ASSERT_TRUE(fs::exists(tmx));
+    t.map().place(1, 1, 1);
+    EXPECT_EQ(t.resize_tiles(12, 12), 0);
+    EXPECT_EQ(t.map().map().at(1, 1), 1);
+    run(command_save);
+    ASSERT_TRUE(fs::exists(tmx));
+    Map_Editor back(12, 12);
+    EXPECT_TRUE(Map_File::read(tmx.string(), back, 12, 12, 2).whole);
+    EXPECT_EQ(back.map().at(1, 1), 1);
+}
+
+TEST_F(SeamsTest, MapAndSheetAreWrittenSafelyAndNeverThroughALink) {
+    make_tiles({blue});
+    const fs::path wst = dir.path / "cave.wst";
+    const fs::path elsewhere = dir.path / "other";
+    fs::create_directory(elsewhere);
+    std::ofstream(elsewhere / "keep.bmp") << "the user's picture";
+    fs::create_symlink(elsewhere / "keep.bmp", dir.path / "cave.bmp");
+    tileset().map().place(0, 0, 0);
+    save_as(wst);
+    EXPECT_EQ(text_of(elsewhere / "keep.bmp"), "the user's picture");
+    EXPECT_FALSE(fs::exists(dir.path / "cave.tmx"));
+    EXPECT_TRUE(tileset().is_modified()) << "the map was not saved";
+    fs::remove(dir.path / "cave.bmp");
+
+    // Every step of a write failing: the old files stay whole, nothing is left beside them.
+    run(command_save);
+    ASSERT_FALSE(tileset().is_modified());
+    const std::string map_before = text_of(dir.path / "cave.tmx");
+    const std::string tiles_before = text_of(wst);
+    tileset().map().place(1, 0, 0);
+    store().current_tile()->fill(red);
+    tileset().set_modified();
+    for (const safe_file::Step step :
+         {safe_file::Step::create, safe_file::Step::write, safe_file::Step::sync, safe_file::Step::rename}) {
+        safe_file::inject_fault(step);
+        run(command_save);
+        safe_file::inject_fault(safe_file::Step::none);
+        EXPECT_EQ(text_of(wst), tiles_before);
+        EXPECT_EQ(text_of(dir.path / "cave.tmx"), map_before);
+        EXPECT_TRUE(tileset().is_modified());
+        int files = 0;
+        for ([[maybe_unused]] const auto& entry : fs::directory_iterator(dir.path)) ++files;
+        EXPECT_EQ(files, 4) << "cave.wst, cave.tmx, cave.bmp and the folder";
+    }
+    // A read-only map file is refused, not replaced: its mode stays.
+    chmod((dir.path / "cave.tmx").c_str(), 0444);
+    run(command_save);
+    EXPECT_EQ(text_of(dir.path / "cave.tmx"), map_before);
+    EXPECT_TRUE(tileset().is_modified());
+    chmod((dir.path / "cave.tmx").c_str(), 0644);
+    // Leftovers of killed saves never block the next one.
+    for (int i = 0; i < 120; ++i) std::ofstream(dir.path / ("cave.wst.saving" + std::to_string(i))) << "x";
+    run(command_save);
+    EXPECT_FALSE(tileset().is_modified());
+    EXPECT_NE(text_of(wst), tiles_before);
+}
