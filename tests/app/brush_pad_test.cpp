@@ -10,6 +10,7 @@
 #include "app/debug_log.h"
 #include "app/tool_options.h"
 #include "app/undo_control.h"
+#include "document/safe_file.h"
 #include "tests/app/drawing_fixture.h"
 #include "tests/ui/event_script.h"
 
@@ -291,4 +292,24 @@ TEST_F(BrushPad, ARefusedFileLeavesThePadEmptyAndIsNeverWrittenOver) {
     restart();
     EXPECT_EQ(read_bytes(pad_file().string()), hostile);
     EXPECT_TRUE(pad().empty());
+}
+
+TEST_F(BrushPad, AFailedWriteAtShutDownIsToldAndKeepsTheOldFile) {
+    ASSERT_TRUE(g_editor->use_as_brush(*make_brush(), 2, 0));
+    g_editor->run_command(command_move_to_pad);
+    restart();
+    const std::vector<unsigned char> kept = read_bytes(pad_file().string());
+    ASSERT_TRUE(g_editor->use_as_brush(*make_brush()));
+    g_editor->run_command(command_move_to_pad);
+    safe_file::inject_fault(safe_file::Step::rename);
+    // The editor is gone by then; the key waits in the queue for the message.
+    push_key(SDLK_RETURN);
+    Application::shut_down();
+    SDL_PumpEvents();
+    EXPECT_FALSE(SDL_HasEvent(SDL_EVENT_KEY_DOWN)) << "no message said the brushes are lost";
+    safe_file::inject_fault(safe_file::Step::none);
+    Application::start_up();
+    ASSERT_TRUE(g_editor->begin());
+    EXPECT_EQ(read_bytes(pad_file().string()), kept);
+    EXPECT_EQ(pad().count(), 1);
 }
