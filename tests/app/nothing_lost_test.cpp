@@ -12,6 +12,8 @@
 #include "app/tool_options.h"
 #include "document/tileset.h"
 #include "document/tileset_file.h"
+#include "mapeditor/map_file.h"
+#include "app/undo_control.h"
 #include "support/editor_fixture.h"
 #include "ui/event_script.h"
 
@@ -155,6 +157,13 @@ TEST_F(NothingLostTest, AFatalReadErrorKeepsTheUnsavedTilesetsFirst) {
     g_editor->run_command(command_mirror);
     ASSERT_TRUE(g_editor->tilesets().new_tileset(8, 8));
     ASSERT_FALSE(g_editor->current()->is_modified());
+    // The recovery copies keep a floating image and the map's cells too.
+    g_editor->tilesets().at(0).map().place(4, 5, 1);
+    Tile dot(2, 2);
+    dot.fill(Color(1, 2, 3));
+    g_editor->canvas().paste(dot, 3, 3);
+    g_editor->undo().record(command_work_selection);
+    ASSERT_TRUE(g_editor->current()->is_modified());
 
     Tile_Store two(6, 6, 256);
     two.add_tile();
@@ -177,9 +186,15 @@ TEST_F(NothingLostTest, AFatalReadErrorKeepsTheUnsavedTilesetsFirst) {
     const fs::path folder = work_dir / "data" / "recovery";
     EXPECT_EQ(fs::path(recovery::folder()), folder);
     const std::vector<std::string> kept = recovery::files_in(folder.string());
-    ASSERT_EQ(kept.size(), 2u);
+    ASSERT_EQ(kept.size(), 3u);
     EXPECT_EQ(kept[0].rfind("untitled1-", 0), 0u);
     EXPECT_EQ(kept[1].rfind("untitled2-", 0), 0u);
+    const std::unique_ptr<Tile_Store> floating = Tileset_File::read((folder / kept[2]).string());
+    ASSERT_TRUE(floating);
+    EXPECT_EQ(floating->tile_at(0)->get_pixel(4, 4), Color(1, 2, 3));
+    Map_Editor map(24, 24);
+    EXPECT_TRUE(Map_File::read(Map_File::map_path((folder / kept[0]).string()), map, 24, 24, 2).whole);
+    EXPECT_EQ(map.map().at(4, 5), 1);
     const std::unique_ptr<Tile_Store> first = Tileset_File::read((folder / kept[0]).string());
     ASSERT_TRUE(first);
     EXPECT_EQ(first->tile_count(), 2);

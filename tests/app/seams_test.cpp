@@ -7,6 +7,7 @@
 #include <filesystem>
 #include <fstream>
 
+#include "app/application.h"
 #include "app/canvas_view.h"
 #include "app/commands.h"
 #include "app/editor.h"
@@ -14,6 +15,7 @@
 #include "app/map_files.h"
 #include "app/tool_options.h"
 #include "app/undo_control.h"
+#include "color/palette.h"
 #include "document/tileset.h"
 #include "document/tileset_file.h"
 #include "mapeditor/map_file.h"
@@ -302,4 +304,17 @@ TEST_F(SeamsTest, MapAndSheetAreWrittenSafelyAndNeverThroughALink) {
     run(command_save);
     EXPECT_FALSE(tileset().is_modified());
     EXPECT_NE(text_of(wst), tiles_before);
+}
+
+TEST_F(SeamsTest, AVeryLongPageNameDoesNotStopTheStart) {
+    Application::shut_down();
+    std::string text = "1,1,9,9,9,255," + std::string(2400, 'n') + ",:";
+    std::string bytes(4, '\0');
+    for (int i = 0; i < 4; ++i) bytes[size_t(i)] = char(text.size() >> (8 * i));
+    std::ofstream(work_dir / "data" / "palette.dat", std::ios::binary) << bytes + text;
+    Application::start_up();
+    ASSERT_TRUE(g_editor->begin());
+    g_editor->repaint(true);
+    EXPECT_EQ(g_palette->name(0).size(), 2400u);
+    EXPECT_EQ(g_palette->color(0, 0), Color(9, 9, 9));
 }
