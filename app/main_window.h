@@ -26,8 +26,6 @@ enum class Edge_Kind { selection, active_selection, paste, seam };
 // allocates, they all reuse the scratch rectangle.
 class Main_Window {
 public:
-    // The widest text picture made: twice the window, far less than any renderer refuses.
-    static constexpr int max_text_width = 2464;
     static constexpr uint32_t default_width = 1232;
     static constexpr uint32_t default_height = 664;
     // From this many pixels an opaque fill is cheaper without blending.

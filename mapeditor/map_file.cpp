@@ -268,6 +268,10 @@ std::string edited(const std::string& source, const Tile_Map& map, uint32_t tile
     std::string out = source;
     std::sort(edits.begin(), edits.end(), [](const Edit& a, const Edit& b) { return a.at > b.at; });
     for (const Edit& e : edits) out.replace(e.at, e.length, e.text);
+    // A file odd enough to defeat the edit (it is damaged, and the user agreed
+    // to replace it) is written anew rather than written broken.
+    XMLDocument check;
+    if (check.Parse(out.c_str(), out.size()) != XML_SUCCESS || !check.RootElement()) return {};
     return out;
 }
 

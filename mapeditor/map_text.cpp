@@ -2,6 +2,9 @@
 
 namespace map_text {
 namespace {
+// As the XML reader counts it: form feeds and vertical tabs too.
+bool is_space(char c) { return c == ' ' || c == '\t' || c == '\n' || c == '\r' || c == '\f' || c == '\v'; }
+
 bool is_name_char(char c) {
     return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z') || (c >= '0' && c <= '9') || c == '_' || c == '-' ||
            c == '.' || c == ':';
@@ -59,10 +62,10 @@ size_t value_at(const std::string& tag, const std::string& name, char& quote) {
         }
         if (tag.compare(i, name.size(), name) != 0 || is_name_char(tag[i - 1])) continue;
         size_t j = i + name.size();
-        while (j < tag.size() && (tag[j] == ' ' || tag[j] == '\t' || tag[j] == '\n' || tag[j] == '\r')) ++j;
+        while (j < tag.size() && is_space(tag[j])) ++j;
         if (j >= tag.size() || tag[j] != '=') continue;
         ++j;
-        while (j < tag.size() && (tag[j] == ' ' || tag[j] == '\t' || tag[j] == '\n' || tag[j] == '\r')) ++j;
+        while (j < tag.size() && is_space(tag[j])) ++j;
         if (j >= tag.size() || (tag[j] != '"' && tag[j] != '\'')) continue;
         quote = tag[j];
         return j + 1;
@@ -138,7 +141,7 @@ std::string without_attribute(const std::string& tag, const std::string& name) {
     const size_t at = value_at(tag, name, quote);
     if (at == std::string::npos) return tag;
     size_t start = tag.rfind(name, at);
-    while (start > 0 && (tag[start - 1] == ' ' || tag[start - 1] == '\t' || tag[start - 1] == '\n')) --start;
+    while (start > 0 && is_space(tag[start - 1])) --start;
     return tag.substr(0, start) + tag.substr(tag.find(quote, at) + 1);
 }
 

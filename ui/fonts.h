@@ -12,6 +12,11 @@ enum Font_Id : int {
     font_count = 4,
 };
 
+// The widest picture of a text that is made: twice the window, far less than
+// any renderer refuses. A page name of thousands of characters asked for a
+// texture the renderer refused, which is fatal; nothing wider can show anyway.
+inline constexpr int max_text_width = 2464;
+
 struct Font_Record {
     const char* name;
     int32_t first_marker_line;

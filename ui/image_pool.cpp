@@ -1,5 +1,7 @@
 #include "ui/image_pool.h"
 
+#include <algorithm>
+
 #include "app/texture.h"
 #include "app/ui_colors.h"
 
@@ -98,6 +100,7 @@ int Image_Pool::text_width(int font, const char* text) const {
 
 Texture* Image_Pool::make_header(SDL_Renderer* renderer, int width, const char* title,
                                  int start_cap, int end_cap, int font) const {
+    width = std::min(width, max_text_width);
     const int left = sprite_width(start_cap);
     const int right = sprite_width(end_cap);
     SDL_Surface* surface = SDL_CreateSurface(left + width + right, 21, SDL_PIXELFORMAT_ARGB8888);
