@@ -47,6 +47,7 @@ int Tileset::make_map() {
         map_editor->file_stamp = old->file_stamp;
     }
     tile_store->watch(map_editor.get());
+    map_editor->saved_state_changed = [this] { notify_name_changed(); };
     return left_out;
 }
 

@@ -30,7 +30,7 @@ void Map_Editor::set_cell(int cell, int tile) {
     cells.set(cell, after);
     open_edit.cells.push_back(Map_Edit::Cell{cell, before, after});
     ++changes;
-    ++edits;
+    count_edit();
 }
 
 void Map_Editor::paint(int x, int y, int tile) {
@@ -80,7 +80,7 @@ bool Map_Editor::undo() {
     end_stroke();
     if (!steps.undo(cells)) return false;
     ++changes;
-    ++edits;
+    count_edit();
     return true;
 }
 
@@ -88,7 +88,7 @@ bool Map_Editor::redo() {
     end_stroke();
     if (!steps.redo(cells)) return false;
     ++changes;
-    ++edits;
+    count_edit();
     return true;
 }
 
@@ -102,35 +102,35 @@ int Map_Editor::take_cells(const Tile_Map& other) {
                 ++left_out;
             else
                 cells.set(x, y, tile);
-            ++edits;
+            count_edit();
         }
     ++changes;
     return left_out;
 }
 
 void Map_Editor::place(int x, int y, int tile) {
-    if (cells.at(x, y) != (tile < 0 ? Tile_Map::empty : tile)) ++edits;
+    if (cells.at(x, y) != (tile < 0 ? Tile_Map::empty : tile)) count_edit();
     cells.set(x, y, tile);
     ++changes;
 }
 
 void Map_Editor::tile_inserted(int index) {
     end_stroke();
-    if (cells.tile_inserted(index)) ++edits;
+    if (cells.tile_inserted(index)) count_edit();
     steps.tile_inserted(index);
     ++changes;
 }
 
 void Map_Editor::tile_removed(int index) {
     end_stroke();
-    if (cells.tile_removed(index)) ++edits;
+    if (cells.tile_removed(index)) count_edit();
     steps.tile_removed(index);
     ++changes;
 }
 
 void Map_Editor::tiles_swapped(int a, int b) {
     end_stroke();
-    if (cells.tiles_swapped(a, b)) ++edits;
+    if (cells.tiles_swapped(a, b)) count_edit();
     steps.tiles_swapped(a, b);
     ++changes;
 }
@@ -152,8 +152,20 @@ void Map_Editor::tile_returned(int index, const Tile_Uses& uses) {
     for (const int c : map_uses->cells)
         if (c < cells.cell_count() && cells.at(c) == Tile_Map::empty) {
             cells.set(c, index);
-            ++edits;
+            count_edit();
         }
     steps.returned(map_uses->mark, index);
     ++changes;
+}
+
+void Map_Editor::count_edit() {
+    const bool was_saved = is_saved();
+    ++edits;
+    if (was_saved && saved_state_changed) saved_state_changed();
+}
+
+void Map_Editor::mark_saved() {
+    const bool was_saved = is_saved();
+    saved_edits = edits;
+    if (!was_saved && saved_state_changed) saved_state_changed();
 }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstdint>
+#include <functional>
 #include <memory>
 #include <string>
 
@@ -58,10 +59,14 @@ public:
     safe_file::Stamp file_stamp;
     // Whether the cells are as last read or written.
     bool is_saved() const { return saved_edits == edits; }
-    void mark_saved() { saved_edits = edits; }
+    void mark_saved();
+    // Told when the cells stop or start being as last read or written (the
+    // tileset's modified mark follows).
+    std::function<void()> saved_state_changed;
 
 private:
     void set_cell(int cell, int tile);
+    void count_edit();
 
     Tile_Map cells;
     Map_History steps;
