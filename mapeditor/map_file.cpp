@@ -272,6 +272,10 @@ std::string edited(const std::string& source, const Tile_Map& map, uint32_t tile
     // to replace it) is written anew rather than written broken.
     XMLDocument check;
     if (check.Parse(out.c_str(), out.size()) != XML_SUCCESS || !check.RootElement()) return {};
+    const XMLElement* written_layer = tile_layer(check.RootElement());
+    const XMLElement* written_data = written_layer ? written_layer->FirstChildElement("data") : nullptr;
+    const char* written_cells = written_data ? written_data->GetText() : nullptr;
+    if (!written_cells || csv != written_cells) return {};
     return out;
 }
 

@@ -90,6 +90,9 @@ Element child(const std::string& text, size_t begin, size_t end, const std::stri
         if (close == std::string::npos || close > end) break;
         const bool closing = text[at + 1] == '/';
         const bool empty = text[close - 2] == '/';
+        // The reader allows blanks between "<" and the name.
+        size_t name_at = at + (closing ? 2 : 1);
+        while (name_at < close && is_space(text[name_at])) ++name_at;
         if (closing) {
             --depth;
             if (found.found && depth == 0) {
@@ -98,9 +101,9 @@ Element child(const std::string& text, size_t begin, size_t end, const std::stri
                 return found;
             }
         } else {
-            size_t n = at + 1;
+            size_t n = name_at;
             while (n < close && is_name_char(text[n])) ++n;
-            if (!found.found && depth == 0 && text.compare(at + 1, n - at - 1, name) == 0 && n - at - 1 == name.size()) {
+            if (!found.found && depth == 0 && n - name_at == name.size() && text.compare(name_at, n - name_at, name) == 0) {
                 found.found = true;
                 found.tag_begin = at;
                 found.tag_end = close;
