@@ -7,13 +7,6 @@
 #include "document/undo_target.h"
 
 namespace {
-std::unique_ptr<Tile> copy_of(const Tile& source) {
-    auto copy = std::make_unique<Tile>(source.width(), source.height());
-    source.copy_into(*copy);
-    copy->update_texture();
-    return copy;
-}
-
 // Puts the tiles back into the order they had before a reordering (back),
 // or into the reordered one again, by swaps the store reports to its watcher.
 void arrange(Tile_Store& store, const std::vector<int>& order, bool back) {

@@ -5,14 +5,12 @@
 #include "document/tile_store.h"
 #include "document/undo_target.h"
 
-namespace {
 std::unique_ptr<Tile> copy_of(const Tile& source) {
     auto copy = std::make_unique<Tile>(source.width(), source.height());
     source.copy_into(*copy);
     copy->update_texture();
     return copy;
 }
-}  // namespace
 
 Undo_Node::Undo_Node(int32_t command, int32_t tile_index)
     : undo(command),

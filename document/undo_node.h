@@ -7,6 +7,9 @@ class Tile;
 class Tile_Store;
 class Undo_Target;
 
+// A copy of a tile with its own texture, as records keep them.
+std::unique_ptr<Tile> copy_of(const Tile& source);
+
 // One state of a tileset in its undo history. The undo command runs before
 // stepping back over the record, the redo command when stepping onto it.
 class Undo_Node {

@@ -36,25 +36,10 @@ TEST(PaletteBuiltIn, MissingFileGivesThreePagesOf32) {
         EXPECT_EQ(palette.count(page), 32);
         for (int i = 0; i < 32; ++i) EXPECT_EQ(palette.color(page, i).alpha, 255);
     }
-    EXPECT_FALSE(palette.dirty());
-}
-
-TEST(PaletteBuiltIn, TablesAsListed) {
-    Scratch_Dir dir;
-    Palette palette(dir.file("palette.dat"));
-    EXPECT_EQ(palette.color(0, 0), Color(255, 255, 255));
-    EXPECT_EQ(palette.color(0, 2), Color(97, 18, 124));
-    EXPECT_EQ(palette.color(0, 31), Color(174, 0, 153));
-    EXPECT_EQ(palette.color(1, 1), Color(0, 0, 170));
-    EXPECT_EQ(palette.color(1, 6), Color(170, 85, 0));
-    EXPECT_EQ(palette.color(1, 15), Color(255, 255, 255));
+    // The deliberate quirks: MSX's second entry is not black, the short pages are padded.
     EXPECT_EQ(palette.color(2, 1), Color(1, 1, 1));
-    EXPECT_EQ(palette.color(2, 2), Color(62, 184, 73));
-    EXPECT_EQ(palette.color(2, 15), Color(255, 255, 255));
-    for (int i = 16; i < 32; ++i) {
-        EXPECT_EQ(palette.color(1, i), Color(0, 0, 0));
-        EXPECT_EQ(palette.color(2, i), Color(0, 0, 0));
-    }
+    EXPECT_EQ(palette.color(1, 16), Color(0, 0, 0));
+    EXPECT_FALSE(palette.dirty());
 }
 
 TEST(PaletteWriting, UnchangedPaletteWritesNoFile) {
