@@ -24,7 +24,7 @@ void show(Selection_Tools& tools, Readout kind, int a, int b = 0) {
 // The view's selection flag follows the mask after every change.
 void selection_changed(Canvas_View& view) { view.set_has_selection(mask_ops::any_selected(*view.selection())); }
 
-std::unique_ptr<Tile> copy_of(const Tile& t) {
+std::unique_ptr<Tile> pixels_of(const Tile& t) {
     auto c = std::make_unique<Tile>(t.width(), t.height());
     std::copy(t.pixels(), t.pixels() + t.pixel_count(), c->pixels());
     return c;
@@ -190,8 +190,8 @@ void Rotate_Stroke::begin(Canvas_View& view, Cell& start, int button) {
     tools.put_down();
     Tile* tile = view.tile();
     if (!tile) return;
-    source = copy_of(*tile);
-    source_mask = view.has_selection() ? copy_of(*view.selection()) : nullptr;
+    source = pixels_of(*tile);
+    source_mask = view.has_selection() ? pixels_of(*view.selection()) : nullptr;
     const Rectangle box = source_mask ? mask_ops::bounds(*source_mask) : Rectangle{0, 0, tile->width(), tile->height()};
     centre_x = box.x + (box.width - 1) / 2.0;
     centre_y = box.y + (box.height - 1) / 2.0;
