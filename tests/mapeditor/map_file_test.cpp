@@ -53,6 +53,7 @@ TEST(MapFile, ARoundTripKeepsEveryCellAndTheFileSaysWhatTiledReads) {
     EXPECT_STREQ(map->Name(), "map");
     EXPECT_STREQ(map->Attribute("orientation"), "orthogonal");
     EXPECT_STREQ(map->Attribute("renderorder"), "right-down");
+    EXPECT_STREQ(map->Attribute("tiledversion"), Map_File::tiled_version) << "some loaders refuse maps without it";
     EXPECT_EQ(map->IntAttribute("width"), 20);
     EXPECT_EQ(map->IntAttribute("height"), 15);
     EXPECT_EQ(map->IntAttribute("tilewidth"), 24);
@@ -146,6 +147,8 @@ TEST(MapFile, DamagedAndForeignFilesAreReadAsFarAsTheyAreValid) {
           written.substr(0, written.size() / 2), written.substr(0, written.find("5,6")), std::string()}) {
         auto [damaged, damaged_top] = read(text);
         EXPECT_FALSE(damaged.whole) << text;
+        if (text.find("infinite") != std::string::npos)
+            EXPECT_NE(damaged.problems.find("infinite map"), std::string::npos) << damaged.problems;
         EXPECT_EQ(damaged.cells, 0) << text;
         EXPECT_FALSE(damaged.problems.empty());
     }
