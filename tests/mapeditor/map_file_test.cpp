@@ -147,8 +147,9 @@ TEST(MapFile, DamagedAndForeignFilesAreReadAsFarAsTheyAreValid) {
           written.substr(0, written.size() / 2), written.substr(0, written.find("5,6")), std::string()}) {
         auto [damaged, damaged_top] = read(text);
         EXPECT_FALSE(damaged.whole) << text;
-        if (text.find("infinite") != std::string::npos)
+        if (text.find("infinite") != std::string::npos) {
             EXPECT_NE(damaged.problems.find("infinite map"), std::string::npos) << damaged.problems;
+        }
         EXPECT_EQ(damaged.cells, 0) << text;
         EXPECT_FALSE(damaged.problems.empty());
     }
