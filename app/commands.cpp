@@ -205,54 +205,68 @@ void caption(int c, char* out, int size) {
     if (has_key(c) && n < size) std::snprintf(out + n, size_t(size - n), " (%s)", key_label(c));
 }
 
-bool is_tool(int c) { return (c >= 0 && c <= 9) || (c >= 18 && c <= 21) || c == 26 || c == 37 || c == 38; }
+bool is_tool(int c) {
+    return (c >= command_pen && c <= command_smudge_brush) ||
+           (c >= command_rectangle_selector && c <= command_wand_selector) || c == command_work_selection ||
+           c == command_scroll || c == command_freehand_rotate;
+}
 
 int tool_options_index(int c) {
     switch (c) {
-        case 0: return 0;
-        case 2: return 1;
-        case 3: return 2;
-        case 9: return 3;
-        case 1: return 4;
-        case 4: return 5;
-        case 5: return 6;
-        case 6: return 7;
-        case 7: return 8;
-        case 18: return 9;
-        case 19: return 10;
-        case 20: return 11;
-        case 21: return 12;
-        case 8: return 13;
-        case 37: return 14;
-        case 38: return 15;
-        case 26: return 16;
+        case command_pen: return 0;
+        case command_lightness_pen: return 1;
+        case command_colorize_pen: return 2;
+        case command_smudge_brush: return 3;
+        case command_dropper: return 4;
+        case command_flood_fill: return 5;
+        case command_line: return 6;
+        case command_rectangle: return 7;
+        case command_circle: return 8;
+        case command_rectangle_selector: return 9;
+        case command_circle_selector: return 10;
+        case command_brush_selector: return 11;
+        case command_wand_selector: return 12;
+        case command_stamp_brush: return 13;
+        case command_scroll: return 14;
+        case command_freehand_rotate: return 15;
+        case command_work_selection: return 16;
         default: return -1;
     }
 }
 
 // The gate and the map disagree on purpose: the brush selector passes the
 // gate with no mode, and the stamp brush has a mode it never gets.
-bool tool_has_brush_mode(int c) { return c == 0 || c == 2 || c == 3 || c == 9 || c == 20; }
+bool tool_has_brush_mode(int c) {
+    return c == command_pen || c == command_lightness_pen || c == command_colorize_pen || c == command_smudge_brush ||
+           c == command_brush_selector;
+}
 
 int brush_mode(int c) {
     switch (c) {
-        case 0: return 0;
-        case 2: return 1;
-        case 3: return 3;
-        case 9: return 4;
-        case 8: return 6;
+        case command_pen: return 0;
+        case command_lightness_pen: return 1;
+        case command_colorize_pen: return 3;
+        case command_smudge_brush: return 4;
+        case command_stamp_brush: return 6;
         default: return -1;
     }
 }
 
 bool scrolls_strip_after(int c) {
-    return c == 39 || c == 40 || c == 45 || c == 46 || c == 64 || c == 67 || c == 84;
+    return c == command_next_tile || c == command_previous_tile || c == command_rewind_strip ||
+           c == command_forward_strip || c == command_add_new_tile || c == command_delete_tile ||
+           c == command_undo_paste_tile;
 }
 
-bool resets_selection_after(int c) { return c == 39 || c == 40 || c == 64 || c == 67; }
+bool resets_selection_after(int c) {
+    return c == command_next_tile || c == command_previous_tile || c == command_add_new_tile ||
+           c == command_delete_tile;
+}
 
 bool saves_copy_after(int c) {
-    return c == 10 || c == 35 || c == 36 || c == 39 || c == 40 || c == 49 || c == 64 || c == 67;
+    return c == command_save_undo_buffer || c == command_horizontal_seam_tool || c == command_vertical_seam_tool ||
+           c == command_next_tile || c == command_previous_tile || c == command_cut || c == command_add_new_tile ||
+           c == command_delete_tile;
 }
 
 }  // namespace commands

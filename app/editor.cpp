@@ -289,31 +289,14 @@ void Editor::run_command(int command) {
     if (commands::group(result) != group_tile_list) undo_control->record_if_inverse(result);
 }
 
-int Editor::canvas_action(int tool, int rectangle_type, int circle_type) {
-    switch (tool) {
-        case command_pen: return 8;
-        case command_dropper: return 11;
-        case command_lightness_pen: return 10;
-        case command_colorize_pen: return 9;
-        case command_flood_fill: return 12;
-        case command_line: return 0;
-        case command_rectangle: return 1 + rectangle_type;
-        case command_circle: return 4 + circle_type;
-        case command_stamp_brush: return 7;
-        case command_smudge_brush: return 13;
-        case command_rectangle_selector: return 18;
-        case command_circle_selector: return 17;
-        case command_brush_selector: return 16;
-        case command_wand_selector: return 19;
-        case command_work_selection: return 20;
-        case command_scroll: return 14;
-        case command_freehand_rotate: return 15;
-        default: return -1;
-    }
+void Editor::set_stroke(int tool, Stroke_Action* stroke, int variant) {
+    if (tool >= 0 && tool < command_count && variant >= 0 && variant < stroke_variants)
+        strokes[tool][variant] = stroke;
 }
 
-void Editor::set_stroke_action(int action, Stroke_Action* stroke) {
-    if (action >= 0 && action < int(std::size(actions))) actions[action] = stroke;
+Stroke_Action* Editor::stroke_for(int tool, int variant) const {
+    if (tool < 0 || tool >= command_count || variant < 0 || variant >= stroke_variants) return nullptr;
+    return strokes[tool][variant];
 }
 
 void Editor::press() {
@@ -321,13 +304,15 @@ void Editor::press() {
     const int y = int(pointer_y);
     if (canvas_view->contains(pointer_x, pointer_y)) {
         const Tool_Settings& settings = drawing_tools->refresh();
-        const int action = canvas_action(tool, settings.rectangle_type, settings.ellipse_type);
-        Stroke_Action* stroke = action >= 0 ? actions[action] : nullptr;
+        const int variant = tool == command_rectangle ? settings.rectangle_type
+                            : tool == command_circle  ? settings.ellipse_type
+                                                      : 0;
+        Stroke_Action* stroke = stroke_for(tool, variant);
         if (stroke && canvas_view->tile()) {
             stroke_change->take(*canvas_view);
             canvas_view->press(*stroke, int(button), pointer_x, pointer_y);
             // "Work selection" is a step only when the press moved something.
-            const bool step = action == 20 ? stroke->completed() : stroke_change->changed(*canvas_view);
+            const bool step = tool == command_work_selection ? stroke->completed() : stroke_change->changed(*canvas_view);
             if (step) undo_control->record(tool);
             return;
         }
@@ -401,8 +386,9 @@ void Editor::pan_loop() {
             dy = event.motion.yrel;
         }
         canvas_view->pan(int(dx), int(dy));
-        pointer_x = dx;
-        pointer_y = dy;
+        // Where the pointer is, for the read-out and the brush outline after the pan.
+        pointer_x = event.motion.x;
+        pointer_y = event.motion.y;
     }
     flush_events();
 }

@@ -6,6 +6,7 @@
 #include <memory>
 #include <string>
 
+#include "app/commands.h"
 #include "app/position_readout.h"
 #include "document/tileset_list.h"
 #include "ui/rectangle.h"
@@ -78,10 +79,12 @@ public:
     // The current tileset's navigation pane, if it has one.
     Tileset_Navigation* navigation();
 
-    // The pixel work of a tool on the canvas, or none while that tool has no
-    // canvas action of its own yet.
-    static int canvas_action(int tool, int rectangle_type = 0, int circle_type = 0);
-    void set_stroke_action(int action, Stroke_Action* stroke);
+    // The stroke a tool runs on the canvas, registered by the folder that
+    // owns it under the tool's command; the rectangle and circle have one for
+    // each figure type ("Outline", "Filled", ...). None: the tool does nothing there.
+    static constexpr int stroke_variants = 3;
+    void set_stroke(int tool, Stroke_Action* stroke, int variant = 0);
+    Stroke_Action* stroke_for(int tool, int variant = 0) const;
 
 private:
     int execute_tileset_command(int command);
@@ -120,7 +123,7 @@ private:
     std::unique_ptr<Tileset_Tabs> tileset_tabs;
     std::unique_ptr<Stroke_Change> stroke_change;
     Position_Readout readout;
-    Stroke_Action* actions[21] = {};
+    Stroke_Action* strokes[command_count][stroke_variants] = {};
     std::unique_ptr<Drawing_Tools> drawing_tools;
     std::unique_ptr<Selection_Tools> selection_tools;
     std::unique_ptr<Undo_Control> undo_control;

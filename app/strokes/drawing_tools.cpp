@@ -3,17 +3,21 @@
 #include "app/editor.h"
 
 Drawing_Tools::Drawing_Tools(Editor& editor) {
-    for (int kind = shape_line; kind <= shape_ellipse_both; ++kind) {
+    for (int kind = shape_line; kind <= shape_ellipse_both; ++kind)
         shapes[kind] = std::make_unique<Shape_Stroke>(shared, Shape_Kind(kind));
-        editor.set_stroke_action(kind, shapes[kind].get());
+    editor.set_stroke(command_line, shapes[shape_line].get());
+    // The figure types follow the shape kinds: outline, filled, both.
+    for (int type = 0; type < Editor::stroke_variants; ++type) {
+        editor.set_stroke(command_rectangle, shapes[shape_rectangle + type].get(), type);
+        editor.set_stroke(command_circle, shapes[shape_ellipse + type].get(), type);
     }
-    editor.set_stroke_action(7, &stamp);
-    editor.set_stroke_action(8, &pen);
-    editor.set_stroke_action(9, &colorize);
-    editor.set_stroke_action(10, &lightness);
-    editor.set_stroke_action(11, &dropper);
-    editor.set_stroke_action(12, &fill);
-    editor.set_stroke_action(13, &smudge);
+    editor.set_stroke(command_stamp_brush, &stamp);
+    editor.set_stroke(command_pen, &pen);
+    editor.set_stroke(command_colorize_pen, &colorize);
+    editor.set_stroke(command_lightness_pen, &lightness);
+    editor.set_stroke(command_dropper, &dropper);
+    editor.set_stroke(command_flood_fill, &fill);
+    editor.set_stroke(command_smudge_brush, &smudge);
 }
 
 const Tool_Settings& Drawing_Tools::refresh() {

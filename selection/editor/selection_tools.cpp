@@ -27,13 +27,13 @@ const char* const smooth_refused = "Nothing to smooth: there are no stair steps 
 }  // namespace
 
 Selection_Tools::Selection_Tools(Editor& editor) : editor(editor) {
-    editor.set_stroke_action(14, &scroll);
-    editor.set_stroke_action(15, &rotate);
-    editor.set_stroke_action(16, &brush);
-    editor.set_stroke_action(17, &ellipse);
-    editor.set_stroke_action(18, &rectangle);
-    editor.set_stroke_action(19, &wand);
-    editor.set_stroke_action(20, &work);
+    editor.set_stroke(command_scroll, &scroll);
+    editor.set_stroke(command_freehand_rotate, &rotate);
+    editor.set_stroke(command_brush_selector, &brush);
+    editor.set_stroke(command_circle_selector, &ellipse);
+    editor.set_stroke(command_rectangle_selector, &rectangle);
+    editor.set_stroke(command_wand_selector, &wand);
+    editor.set_stroke(command_work_selection, &work);
     g_copy_buffer = &copies;
 }
 

@@ -128,7 +128,7 @@ TEST_F(EditorTest, TheWindowsCloseRequestAsksTheSameQuestion) {
 
 TEST_F(EditorTest, MiddleButtonDoesNothingAndTheStrokeLoopRunsUntilRelease) {
     Recording_Action action;
-    g_editor->set_stroke_action(Editor::canvas_action(command_pen), &action);
+    g_editor->set_stroke(command_pen, &action);
     const SDL_Point a = cell_centre(2, 3);
     const SDL_Point b = cell_centre(5, 3);
     push_button(a.x, a.y, true, SDL_BUTTON_MIDDLE);
@@ -151,7 +151,7 @@ TEST_F(EditorTest, MiddleButtonDoesNothingAndTheStrokeLoopRunsUntilRelease) {
     pump();
     g_editor->repaint(false);
     EXPECT_EQ(read_pixel(a.x, a.y), Color(255, 0, 0));
-    g_editor->set_stroke_action(Editor::canvas_action(command_pen), nullptr);
+    g_editor->set_stroke(command_pen, nullptr);
 }
 
 TEST_F(EditorTest, CtrlRightDragPansAndAQuitDuringThePanOnlyEndsIt) {
@@ -169,6 +169,8 @@ TEST_F(EditorTest, CtrlRightDragPansAndAQuitDuringThePanOnlyEndsIt) {
             m.type = SDL_EVENT_MOUSE_MOTION;
             m.motion.xrel = 7;
             m.motion.yrel = -3;
+            m.motion.x = 407;
+            m.motion.y = 297;
             SDL_PushEvent(&m);
         })
         .then([] { push_quit(); });
@@ -184,6 +186,9 @@ TEST_F(EditorTest, CtrlRightDragPansAndAQuitDuringThePanOnlyEndsIt) {
     EXPECT_FALSE(g_editor->quit_requested());
     EXPECT_EQ(c.origin().x, start.x + 7);
     EXPECT_EQ(c.origin().y, start.y - 3);
+    // The editor knows where the pointer is, not how far it moved.
+    EXPECT_EQ(g_editor->pointer().x, 407.f);
+    EXPECT_EQ(g_editor->pointer().y, 297.f);
 }
 
 TEST_F(EditorTest, WheelZoomKeepsTheCentreAndStopsAtTheLimits) {
