@@ -82,6 +82,6 @@ void Adjust_Preview_Item::draw() {
     const int scale = longest > 0 ? std::max(1, box / longest) : 1;
     const int w = source.width() * scale;
     const int h = source.height() * scale;
-    g_main_window->fill_rect(area, ui_colors[19]);
+    g_main_window->fill_rect(area, ui_colors[ui_grey_169]);
     if (Tile_Texture* t = preview->texture()) t->draw_scaled(area.x + (box - w) / 2, area.y + (box - h) / 2, w, h);
 }

@@ -16,7 +16,7 @@ namespace {
 constexpr Color checker_light(204, 204, 204);
 constexpr Color checker_dark(153, 153, 153);
 constexpr Color cell_color(176, 176, 176);
-constexpr Color highlight = ui_colors[11];
+constexpr Color highlight = ui_colors[ui_blue];
 constexpr int checker_square = 8;
 
 int middle(int n) { return (n - 1) / 2; }

@@ -253,8 +253,8 @@ void Canvas_View::compose_cells() {
             else
                 darken(grid, grid_contrast);
             if (selection_on && !is_selected(*mask, tx, ty)) {
-                inside = over(inside, ui_colors[1]);
-                grid = over(grid, ui_colors[1]);
+                inside = over(inside, ui_colors[ui_white_veil]);
+                grid = over(grid, ui_colors[ui_white_veil]);
             }
             cell_inside[size_t(ty * w + tx)] = argb(inside);
             cell_grid[size_t(ty * w + tx)] = argb(grid);
@@ -478,7 +478,7 @@ void Canvas_View::frame_float(Main_Window& window) {
             if (xr[1] > xr[0] && yr[1] > yr[0])
                 window.frame(Rectangle{origin_x + xr[0] * s, origin_y + yr[0] * s, (xr[1] - xr[0]) * s,
                                        (yr[1] - yr[0]) * s},
-                             ui_colors[10]);
+                             ui_colors[ui_cyan]);
     window.end_clip();
 }
 

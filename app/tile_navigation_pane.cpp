@@ -35,8 +35,8 @@ constexpr Button_Look looks[Tile_Navigation_Pane::button_count] = {
 };
 constexpr int button_height = 23;
 // Empty cells read as slots, darker than the window around them.
-constexpr Color empty_cell_color = ui_colors[18];
-constexpr Color strip_frame_color = ui_colors[4];
+constexpr Color empty_cell_color = ui_colors[ui_grey_101];
+constexpr Color strip_frame_color = ui_colors[ui_dark_grey];
 }  // namespace
 
 Tile_Navigation_Pane::Tile_Navigation_Pane(Tile_Strip& strip) : Pane(pane_area, "Tileset navigation"), strip(strip) {

@@ -49,7 +49,8 @@ int arrange_tiles(Tileset& tileset, std::vector<int>& order) {
 int edit_map(Tileset& tileset) {
     Tile_Store& store = tileset.store();
     const Map_View::Outcome outcome = show_map_editor(tileset.map(), store, tileset.path().name);
-    if (outcome.changed) tileset.set_modified();
+    // The map's own changes mark the tileset; the title follows them.
+    if (outcome.changed) tileset.refresh_modified();
     if (outcome.chosen < 0 || outcome.chosen == store.current_index()) return -1;
     store.go_to(outcome.chosen);
     return chose(tileset);

@@ -34,7 +34,7 @@ void Tileset_Tabs::draw(Tileset_List& list) {
         const Rectangle r = tab_area(list, i);
         if (r.x >= area.x + area.width) break;
         const bool current = &list.at(i) == list.current();
-        w.bevel_fill(r, current ? ui_colors[8] : ui_colors[9]);
+        w.bevel_fill(r, current ? ui_colors[ui_light_grey] : ui_colors[ui_grey_112]);
         const std::string name = list.at(i).display_name();
         // Cut the name to the tab, so neighbours never overlap.
         int chars = int(name.size());

@@ -152,8 +152,8 @@ void Tool_Options_Pane::draw() {
         for (int k = 1; k <= 7; ++k) {
             const Rectangle s = brush_selector->shape_button(k - 1);
             const Rectangle z = brush_selector->size_button(k);
-            if (s.contains(pointer.x, pointer.y)) w.frame(s, ui_colors[10]);
-            if (k <= 6 && z.contains(pointer.x, pointer.y)) w.frame(z, ui_colors[10]);
+            if (s.contains(pointer.x, pointer.y)) w.frame(s, ui_colors[ui_cyan]);
+            if (k <= 6 && z.contains(pointer.x, pointer.y)) w.frame(z, ui_colors[ui_cyan]);
         }
     }
     w.next_group();

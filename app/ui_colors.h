@@ -2,6 +2,30 @@
 
 #include "color/color.h"
 
+// The colours by name, as indices into the table.
+enum Ui_Color : int {
+    ui_white = 0,
+    ui_white_veil = 1,
+    ui_black = 2,
+    ui_transparent = 3,
+    ui_dark_grey = 4,
+    ui_background = 5,
+    ui_grey_100 = 6,
+    ui_grey_128 = 7,
+    ui_light_grey = 8,
+    ui_grey_112 = 9,
+    ui_cyan = 10,
+    ui_blue = 11,
+    ui_dark_moss = 12,
+    ui_moss = 13,
+    ui_magenta = 14,
+    ui_clear_magenta = 15,
+    ui_orange = 16,
+    ui_red = 17,
+    ui_grey_101 = 18,
+    ui_grey_169 = 19,
+};
+
 // The interface colours every module draws with, indexed as the program's
 // panes, dialogs and menus refer to them.
 inline constexpr Color ui_colors[20] = {
@@ -14,7 +38,7 @@ inline constexpr Color ui_colors[20] = {
     Color(101, 101, 101, 255), Color(169, 169, 169, 255),
 };
 
-inline constexpr int background_color_index = 5;
+inline constexpr int background_color_index = ui_background;
 // The body of every pane header: the moss green of the interface.
-inline constexpr Color header_color = ui_colors[13];
+inline constexpr Color header_color = ui_colors[ui_moss];
 inline constexpr Color header_top_line = Color(183, 183, 183, 255);

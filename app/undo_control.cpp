@@ -19,7 +19,7 @@ bool Undo_Control::record(int command) {
     Tileset* t = editor.current();
     if (!t) return false;
     const bool image = t->history().record(command, t->store(), this);
-    if (image) t->set_modified();
+    t->refresh_modified();
     return image;
 }
 
@@ -27,7 +27,7 @@ bool Undo_Control::record_if_inverse(int command) {
     Tileset* t = editor.current();
     if (!t) return false;
     const bool image = t->history().record_if_inverse(command, t->store(), this);
-    if (image) t->set_modified();
+    t->refresh_modified();
     return image;
 }
 
@@ -36,7 +36,7 @@ int Undo_Control::record_list_change(std::unique_ptr<TileListUndoNode> record) {
     if (!t || !record) return -1;
     const int command = record->undo_command();
     t->history().push(std::move(record));
-    t->set_modified();
+    t->refresh_modified();
     return command;
 }
 
@@ -44,7 +44,7 @@ void Undo_Control::record_float_left(Tileset& from) {
     const Tile* tile = from.store().current_tile();
     if (!tile) return;
     from.history().push(std::make_unique<ImageUndoNode>(command_cut, from.store().current_index(), *tile, nullptr));
-    from.set_modified();
+    from.refresh_modified();
 }
 
 void Undo_Control::record_put_down() {
@@ -54,7 +54,8 @@ void Undo_Control::record_put_down() {
     int index = 0;
     for (const auto& t : owner->store().all()) {
         if (t.get() == tile) {
-            owner->history().push(std::make_unique<ImageUndoNode>(command_deselect, index, *tile, nullptr));
+            // What the user sees does not change: no change of the contents.
+            owner->history().push(std::make_unique<ImageUndoNode>(command_deselect, index, *tile, nullptr), false);
             return;
         }
         ++index;
@@ -73,7 +74,7 @@ bool Undo_Control::undo() {
     Tileset* t = editor.current();
     const Replay replay(replay_depth);
     if (!t || !t->history().undo(t->store(), *this)) return false;
-    t->set_modified();
+    t->refresh_modified();
     return true;
 }
 
@@ -81,7 +82,7 @@ bool Undo_Control::redo() {
     Tileset* t = editor.current();
     const Replay replay(replay_depth);
     if (!t || !t->history().redo(t->store(), *this)) return false;
-    t->set_modified();
+    t->refresh_modified();
     return true;
 }
 

@@ -23,8 +23,8 @@ constexpr SDL_Keycode key_escape = 27;
 constexpr SDL_Keycode key_space = 32;
 constexpr SDL_Keycode key_yes = 121;
 constexpr int text_lines = 3;
-constexpr Color cell_color = ui_colors[18];
-constexpr Color free_cell_color = ui_colors[19];
+constexpr Color cell_color = ui_colors[ui_grey_101];
+constexpr Color free_cell_color = ui_colors[ui_grey_169];
 
 // The grid and its texts as one dialog item, so the dialog sizes its frame
 // around them and places the "Ok" bar below.

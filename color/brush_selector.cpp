@@ -75,7 +75,7 @@ void Brush_Selector::build_faces() {
     face_pixels.assign(size_t(width * button_size), Color());
     // One face, filled like a button, with the brush at (left, top) in 2 x 2 pixels.
     auto face = [&](int index, bool on, const Brush& b, int left, int top) {
-        const Color face_color = on ? ui_colors[4] : ui_colors[9];
+        const Color face_color = on ? ui_colors[ui_dark_grey] : ui_colors[ui_grey_112];
         const Color brush_color = on ? white : light_grey;
         for (int y = 0; y < button_size; ++y)
             for (int x = 0; x < button_size; ++x) {

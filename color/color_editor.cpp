@@ -117,7 +117,7 @@ void Color_Editor::draw() {
     if (row_cells > 0) {
         w.frame(Rectangle{row_origin.x - 1, row_origin.y - 1, row_cells * palette_cell + 2, palette_cell + 2},
                 pane_frame_color);
-        w.fill_rect(Rectangle{row_origin.x, row_origin.y, row_cells * palette_cell, palette_cell}, ui_colors[4]);
+        w.fill_rect(Rectangle{row_origin.x, row_origin.y, row_cells * palette_cell, palette_cell}, ui_colors[ui_dark_grey]);
         const int count = shown_page < g_palette->page_count() ? std::min(row_cells, g_palette->count(shown_page)) : 0;
         for (int i = 0; i < count; ++i) w.fill_rect(palette_cell_area(i), g_palette->color(shown_page, i));
     }

@@ -56,7 +56,7 @@ bool Palette_Area::compose_cells() {
     }
     // The image depends only on the colours in order: the cells' places follow from their indices.
     if (grid && grid->width() == width && grid->height() == height && current == grid_colors) return true;
-    grid_pixels.assign(size_t(width * height), ui_colors[4]);
+    grid_pixels.assign(size_t(width * height), ui_colors[ui_dark_grey]);
     for (size_t i = 0; i < current.size(); ++i)
         for (int y = cells[i].y; y < cells[i].y + cell; ++y)
             std::fill_n(grid_pixels.begin() + (y * width + cells[i].x), cell, current[i]);
@@ -77,7 +77,7 @@ void Palette_Area::draw() {
         grid->draw_at(client.x, client.y);
         return;
     }
-    w.fill_rect(Rectangle{client.x, client.y, client.width, client.height - 1}, ui_colors[4]);
+    w.fill_rect(Rectangle{client.x, client.y, client.width, client.height - 1}, ui_colors[ui_dark_grey]);
     for (size_t i = 0; i < cells.size(); ++i) {
         scratch = Rectangle{client.x + cells[i].x, client.y + cells[i].y, cell, cell};
         w.fill_rect(scratch, g_palette->color(shown_page, int(i)));

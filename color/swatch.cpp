@@ -10,7 +10,7 @@ Swatch::Swatch(int width, int height) {
     std::vector<Color> pixels(size_t(width * height));
     for (int y = 0; y < height; ++y)
         for (int x = 0; x < width; ++x)
-            pixels[size_t(y * width + x)] = ((x / square + y / square) % 2) ? ui_colors[18] : ui_colors[19];
+            pixels[size_t(y * width + x)] = ((x / square + y / square) % 2) ? ui_colors[ui_grey_101] : ui_colors[ui_grey_169];
     board.reset(Texture::from_pixels(g_main_window->renderer(), pixels.data(), width, height));
     board->set_opaque(true);
 }

@@ -16,7 +16,7 @@ void Tool_Color::draw() {
     if (selected) {
         // Two pixels of the interface's bright cyan inside the field's edge.
         const Rectangle r = client;
-        w.frame(Rectangle{r.x - 2, r.y - 2, r.width + 4, r.height + 4}, ui_colors[11]);
-        w.frame(Rectangle{r.x - 1, r.y - 1, r.width + 2, r.height + 2}, ui_colors[11]);
+        w.frame(Rectangle{r.x - 2, r.y - 2, r.width + 4, r.height + 4}, ui_colors[ui_blue]);
+        w.frame(Rectangle{r.x - 1, r.y - 1, r.width + 2, r.height + 2}, ui_colors[ui_blue]);
     }
 }

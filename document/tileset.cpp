@@ -24,12 +24,14 @@ Tileset::Tileset(const std::string& path, uint32_t tile_width, uint32_t tile_hei
       navigation_pane(make_tileset_navigation(tile_strip)) {
     file_path.set(path);
     make_map();
+    saved_stamp = undo_history.content_stamp();
 }
 
 Tileset::Tileset(const std::string& path, std::unique_ptr<Tile_Store> tiles)
     : tile_store(std::move(tiles)), tile_strip(*tile_store), navigation_pane(make_tileset_navigation(tile_strip)) {
     file_path.set(path);
     make_map();
+    saved_stamp = undo_history.content_stamp();
 }
 
 Tileset::~Tileset() { tile_store->watch(nullptr); }
@@ -47,18 +49,25 @@ int Tileset::make_map() {
         map_editor->file_stamp = old->file_stamp;
     }
     tile_store->watch(map_editor.get());
-    map_editor->saved_state_changed = [this] { notify_name_changed(); };
+    map_editor->saved_state_changed = [this] { refresh_modified(); };
     return left_out;
 }
 
 void Tileset::set_modified() {
-    if (modified) return;
-    modified = true;
-    notify_name_changed();
+    forced = true;
+    refresh_modified();
 }
 
 void Tileset::clear_modified() {
-    modified = false;
+    forced = false;
+    saved_stamp = undo_history.content_stamp();
+    shown_modified = is_modified();
+    notify_name_changed();
+}
+
+void Tileset::refresh_modified() {
+    if (is_modified() == shown_modified) return;
+    shown_modified = is_modified();
     notify_name_changed();
 }
 
@@ -73,7 +82,9 @@ std::string Tileset::display_name() const { return is_modified() ? file_path.nam
 int Tileset::resize_tiles(uint32_t width, uint32_t height) {
     tile_store->resize(width, height);
     undo_history.clear();
-    return make_map();
+    const int left_out = make_map();
+    refresh_modified();
+    return left_out;
 }
 
 std::string Tileset::statistics_text() const {

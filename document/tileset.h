@@ -48,15 +48,21 @@ public:
     // None while no display has installed its maker.
     Tileset_Navigation* navigation() { return navigation_pane.get(); }
     const File_Path& path() const { return file_path; }
-    // Changed since the last save or load: a pixel or tile edit, or map
-    // edits not yet written beside the tileset.
-    bool is_modified() const { return modified || !map_editor->is_saved(); }
+    // Changed since the last save or load, derived rather than kept: the
+    // history's state is not the one saved (an undo back to it is no
+    // change), the map differs from what was last read or written, or a
+    // change the history does not hold was reported (set_modified).
+    bool is_modified() const {
+        return forced || undo_history.content_stamp() != saved_stamp || !map_editor->is_saved();
+    }
     bool is_named() const { return named; }
 
-    // Setting an already set flag does nothing; otherwise the window title is
-    // refreshed. Clearing always refreshes it.
+    // A change the history does not hold. The window title follows.
     void set_modified();
+    // Saved or loaded: the state shown is the file's. The title follows.
     void clear_modified();
+    // After the history or the map changed: the title follows the mark.
+    void refresh_modified();
     // A path chosen in the save dialog: the tileset is named from now on.
     void set_path(const std::string& path);
     // The file name, with "*" while modified.
@@ -75,7 +81,10 @@ private:
     void notify_name_changed();
 
     File_Path file_path;
-    bool modified = false;
+    bool forced = false;
+    uint64_t saved_stamp = 0;
+    // The mark the title last showed.
+    bool shown_modified = false;
     bool named = false;
     std::unique_ptr<Tile_Store> tile_store;
     // Emptied by resize_tiles.

@@ -29,8 +29,14 @@ public:
     bool record(int command, Tile_Store& store, const Undo_Target* target);
     // record, only for a command that has an inverse; false otherwise.
     bool record_if_inverse(int command, Tile_Store& store, const Undo_Target* target);
-    // A record made by its command itself (a change of the tile list).
-    void push(std::unique_ptr<Undo_Node> record);
+    // A record made by its command itself (a change of the tile list, a
+    // floating image put down or carried away); content_change says whether
+    // it changed what the tileset holds.
+    void push(std::unique_ptr<Undo_Node> record, bool content_change = true);
+    // Names the contents in the state shown: equal stamps, equal contents
+    // (as far as the history knows; a saved tileset keeps the stamp of its
+    // save to tell whether it was changed since).
+    uint64_t content_stamp() const;
     // The first record of a tileset: its current tile, no mask.
     void start(Tile_Store& store);
     void restart(Tile_Store& store);
@@ -48,5 +54,8 @@ public:
 private:
     int32_t maximum;
     int current = -1;
+    // The stamp of an empty history; a new one after every clear, since the
+    // tileset changed in a way no record holds (its tiles were resized).
+    uint64_t cleared_stamp;
     std::vector<std::unique_ptr<Undo_Node>> records;
 };

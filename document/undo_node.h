@@ -28,6 +28,11 @@ public:
     int32_t undo_command() const { return undo; }
     int32_t redo_command() const { return redo; }
     int32_t tile_index() const { return index; }
+    // Names the tileset's contents in this state: records that change no
+    // pixel and no tile (a change of tile, a selection) carry the stamp of the
+    // record before them. The history sets it.
+    uint64_t content_stamp() const { return content; }
+    void set_content_stamp(uint64_t stamp) { content = stamp; }
 
 protected:
     // Goes to the record's tile when another one is current.
@@ -36,6 +41,7 @@ protected:
     int32_t undo;
     int32_t redo;
     int32_t index;
+    uint64_t content = 0;
 };
 
 // A copy of one tile as it was after a change, of the selection mask when

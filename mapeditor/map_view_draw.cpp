@@ -18,12 +18,12 @@
 namespace {
 constexpr int checker_cell = 8;
 // An empty cell, darker than the checkerboard a transparent tile shows.
-constexpr Color empty_color = ui_colors[4];
-constexpr Color grid_color = ui_colors[7];
-constexpr Color seam_color = ui_colors[17];
-constexpr Color chosen_color = ui_colors[10];
-constexpr Color hover_color = ui_colors[0];
-constexpr Color pressed_face = ui_colors[5];
+constexpr Color empty_color = ui_colors[ui_dark_grey];
+constexpr Color grid_color = ui_colors[ui_grey_128];
+constexpr Color seam_color = ui_colors[ui_red];
+constexpr Color chosen_color = ui_colors[ui_cyan];
+constexpr Color hover_color = ui_colors[ui_white];
+constexpr Color pressed_face = ui_colors[ui_background];
 // A seam mark covers this many pixels on each side of its edge.
 constexpr int seam_half_width = 1;
 

@@ -6,8 +6,8 @@
 
 // The checkerboard shown behind transparent pixels in the tile views, light
 // and dark grey, and a pixel laid over it.
-inline constexpr Color checker_light = ui_colors[19];
-inline constexpr Color checker_dark = ui_colors[18];
+inline constexpr Color checker_light = ui_colors[ui_grey_169];
+inline constexpr Color checker_dark = ui_colors[ui_grey_101];
 
 // The pixel blended over the checkerboard by its alpha; the result is opaque.
 inline Color on_checkerboard(Color pixel, bool light) {

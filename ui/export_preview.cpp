@@ -35,11 +35,11 @@ struct Preview {
         Main_Window& w = *g_main_window;
         frame.draw();
         const Rectangle client = frame.client_area();
-        w.fill_rect(Rectangle{client.x, client.y, area_size, area_size}, ui_colors[18]);
+        w.fill_rect(Rectangle{client.x, client.y, area_size, area_size}, ui_colors[ui_grey_101]);
         image->source = {0, 0, float(picture.width), float(picture.height)};
         image->draw_in(picture);
-        if (cut_x) w.fill_rect(Rectangle{client.x + area_size - 3, client.y, 3, area_size}, ui_colors[17]);
-        if (cut_y) w.fill_rect(Rectangle{client.x, client.y + area_size - 3, area_size, 3}, ui_colors[17]);
+        if (cut_x) w.fill_rect(Rectangle{client.x + area_size - 3, client.y, 3, area_size}, ui_colors[ui_red]);
+        if (cut_y) w.fill_rect(Rectangle{client.x, client.y + area_size - 3, area_size, 3}, ui_colors[ui_red]);
         button(export_button, "Export as .bmp");
         button(cancel_button, "Cancel");
     }

@@ -34,8 +34,8 @@ const Row menu_rows[Menu_Bar::menu_count][25] = {
     {{" Keyboard shortcuts ", 80}, {" Mouse commands ", 81}, {" About ", 79}, {"$", -1}},
 };
 
-const Color menu_background = ui_colors[8];
-const Color menu_frame = ui_colors[4];
+const Color menu_background = ui_colors[ui_light_grey];
+const Color menu_frame = ui_colors[ui_dark_grey];
 
 Text_Writer& writer(bool highlighted) { return g_main_window->writer(highlighted ? font_header : font_regular); }
 

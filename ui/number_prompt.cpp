@@ -124,19 +124,19 @@ void Number_Prompt::draw() const {
     Main_Window& w = *g_main_window;
     w.bevel_fill(box, refused ? prompt_refused_color : pane_body_color);
     const Rectangle field{box.x + padding, box.y + padding, box.width - 2 * padding, field_height};
-    w.fill_rect(field, ui_colors[0]);
-    w.bevel(field, ui_colors[0], true);
+    w.fill_rect(field, ui_colors[ui_white]);
+    w.bevel(field, ui_colors[ui_white], true);
     Text_Writer& writer = w.writer(font_regular);
     const int text_x = field.x + 3;
     const int text_y = field.y + (field_height - writer.line_height()) / 2;
     const int text_w = writer.measure(text);
     // The value offered at first is marked: the first key replaces it.
     if (fresh && length > 0)
-        w.fill_rect(Rectangle{text_x - 1, field.y + 2, text_w + 2, field_height - 4}, ui_colors[10]);
+        w.fill_rect(Rectangle{text_x - 1, field.y + 2, text_w + 2, field_height - 4}, ui_colors[ui_cyan]);
     writer.write_at(text_x, text_y, text);
     if (!fresh) {
         const int caret_x = text_x + text_w + 1;
-        w.line(caret_x, field.y + 3, caret_x, field.y + field_height - 4, ui_colors[2]);
+        w.line(caret_x, field.y + 3, caret_x, field.y + field_height - 4, ui_colors[ui_black]);
     }
     Text_Writer& hint = w.writer(font_pane);
     hint.set_cursor(field.x, field.y + field_height + padding);

@@ -23,9 +23,9 @@ constexpr int button_width = 60;
 constexpr int button_height = 27;
 constexpr int button_gap = 8;
 // The part of the picture no tile covers, darker than the checkerboard.
-constexpr Color empty_color = ui_colors[4];
-constexpr Color current_frame_color = ui_colors[10];
-constexpr Color hover_frame_color = ui_colors[0];
+constexpr Color empty_color = ui_colors[ui_dark_grey];
+constexpr Color current_frame_color = ui_colors[ui_cyan];
+constexpr Color hover_frame_color = ui_colors[ui_white];
 
 void paint_view(void* view) { static_cast<Real_Size_View*>(view)->draw(); }
 Backdrop::Area view_area(const void* view) { return static_cast<const Real_Size_View*>(view)->modal_area(); }

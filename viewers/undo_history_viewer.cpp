@@ -20,8 +20,8 @@ constexpr int row_step = 30;
 constexpr int box_width = 308;
 constexpr int box_height = 28;
 constexpr int client_width = 300;
-constexpr Color row_frame = ui_colors[7];
-constexpr Color row_fill = ui_colors[19];
+constexpr Color row_frame = ui_colors[ui_grey_128];
+constexpr Color row_fill = ui_colors[ui_grey_169];
 
 // The rows of the history, drawn as one dialog item of the client's size.
 class History_Rows : public Dialog_Item {
@@ -39,7 +39,7 @@ public:
             const bool current = i == history.position();
             w.bevel(box, row_frame, !current);
             const Rectangle inner{box.x + 1, box.y + 1, box.width - 2, box.height - 2};
-            w.fill_rect(inner, current ? ui_colors[0] : row_fill);
+            w.fill_rect(inner, current ? ui_colors[ui_white] : row_fill);
             draw_record(history.at(i), i, inner);
         }
     }

@@ -8,8 +8,8 @@
 namespace {
 // The frame around each bar and the bars of free slots: two greys that stand
 // apart from the pane's light body.
-constexpr Color frame_color = ui_colors[7];
-constexpr Color empty_color = ui_colors[6];
+constexpr Color frame_color = ui_colors[ui_grey_128];
+constexpr Color empty_color = ui_colors[ui_grey_100];
 }  // namespace
 
 Undo_Meter::Undo_Meter(int x, int y) : Pane(Rectangle{x, y, body_width, body_height}, "Undo meter") {

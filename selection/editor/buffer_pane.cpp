@@ -20,7 +20,7 @@ constexpr int thumbnails_body =
 // smaller (its pixels stay square and sharp), centred, over dark grey so
 // that its transparent pixels show.
 void draw_fitted(Tile& image, const Rectangle& box) {
-    g_main_window->fill_rect(box, ui_colors[18]);
+    g_main_window->fill_rect(box, ui_colors[ui_grey_101]);
     Tile_Texture* texture = image.texture();
     if (!texture || image.width() <= 0 || image.height() <= 0) return;
     int w = box.width;
@@ -71,7 +71,7 @@ void Buffer_Pane::draw() {
     for (int i = 1; i < b->count() && i <= columns * thumbnail_rows; ++i) {
         const Rectangle r = thumbnail(i);
         draw_fitted(const_cast<Tile&>(*b->at(i)), r);
-        g_main_window->frame(r, ui_colors[4]);
+        g_main_window->frame(r, ui_colors[ui_dark_grey]);
     }
 }
 

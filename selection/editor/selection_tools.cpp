@@ -165,9 +165,7 @@ int Selection_Tools::fill(bool transparent) {
         mask_ops::fill_selected(*view.tile(), *view.selection(), c);
         view.tile()->update_texture();
     }
-    record(command);
-    editor.current()->set_modified();
-    return command;
+    return record(command);
 }
 
 int Selection_Tools::copy() {

@@ -42,7 +42,7 @@ TEST_F(RepaintCache, ATranslucentPaletteColourIsBlendedOverTheCellBackground) {
     const SDL_Point p = cell_centre(2);
     g_palette->set_color(0, 2, Color(255, 255, 255, 0));
     g_editor->repaint(false);
-    EXPECT_EQ(read_pixel(p.x, p.y), ui_colors[4]);
+    EXPECT_EQ(read_pixel(p.x, p.y), ui_colors[ui_dark_grey]);
     g_palette->set_color(0, 2, Color(1, 2, 3));
     g_editor->repaint(false);
     EXPECT_EQ(read_pixel(p.x, p.y), Color(1, 2, 3));
@@ -66,14 +66,14 @@ TEST_F(RepaintCache, TheBrushButtonsFollowTheCurrentShapeAndSize) {
     auto face = [](const Rectangle& r) { return read_pixel(r.x + 2, r.y + r.height / 2); };
     b.set_brush(0, 1);
     g_editor->repaint(false);
-    EXPECT_EQ(face(b.size_button(1)), ui_colors[4]);
-    EXPECT_EQ(face(b.size_button(3)), ui_colors[9]);
+    EXPECT_EQ(face(b.size_button(1)), ui_colors[ui_dark_grey]);
+    EXPECT_EQ(face(b.size_button(3)), ui_colors[ui_grey_112]);
     b.set_brush(2, 3);
     g_editor->repaint(false);
-    EXPECT_EQ(face(b.size_button(1)), ui_colors[9]);
-    EXPECT_EQ(face(b.size_button(3)), ui_colors[4]);
-    EXPECT_EQ(face(b.shape_button(2)), ui_colors[4]);
-    EXPECT_EQ(face(b.shape_button(0)), ui_colors[9]);
+    EXPECT_EQ(face(b.size_button(1)), ui_colors[ui_grey_112]);
+    EXPECT_EQ(face(b.size_button(3)), ui_colors[ui_dark_grey]);
+    EXPECT_EQ(face(b.shape_button(2)), ui_colors[ui_dark_grey]);
+    EXPECT_EQ(face(b.shape_button(0)), ui_colors[ui_grey_112]);
 }
 
 TEST_F(RepaintCache, TheSizeButtonsShowTheCurrentShape) {
@@ -91,7 +91,7 @@ TEST_F(RepaintCache, TheSizeButtonsShowTheCurrentShape) {
     }
     // The 6-pixel brush lies 3 pixels inside its button, 2 x 2 screen pixels a brush pixel.
     const Rectangle six = b.size_button(6);
-    auto shown = [&](const Brush& brush) { return brush.is_set(x, y) ? Color(200, 200, 200) : ui_colors[9]; };
+    auto shown = [&](const Brush& brush) { return brush.is_set(x, y) ? Color(200, 200, 200) : ui_colors[ui_grey_112]; };
     b.set_brush(0, 1);
     g_editor->repaint(false);
     EXPECT_EQ(read_pixel(six.x + 3 + 2 * x, six.y + 3 + 2 * y), shown(round));

@@ -12,6 +12,7 @@
 #include "app/commands.h"
 #include "app/editor.h"
 #include "app/file_dialog.h"
+#include "app/main_window.h"
 #include "app/map_files.h"
 #include "app/tool_options.h"
 #include "app/undo_control.h"
@@ -317,4 +318,21 @@ TEST_F(SeamsTest, AVeryLongPageNameDoesNotStopTheStart) {
     g_editor->repaint(true);
     EXPECT_EQ(g_palette->name(0).size(), 2400u);
     EXPECT_EQ(g_palette->color(0, 0), Color(9, 9, 9));
+}
+
+TEST_F(SeamsTest, TheModifiedMarkFollowsTheHistoryBackToTheSavedState) {
+    make_tiles({blue, red});
+    save_as(dir.path / "marked.wst");
+    ASSERT_FALSE(tileset().is_modified());
+    run(command_add_new_tile);
+    EXPECT_TRUE(tileset().is_modified());
+    run(command_undo);
+    EXPECT_FALSE(tileset().is_modified()) << "back to what was saved";
+    EXPECT_STREQ(SDL_GetWindowTitle(g_main_window->window()), "Mosswick 0.88 - marked");
+    run(command_redo);
+    EXPECT_TRUE(tileset().is_modified());
+    // Choosing another tile changes nothing that is saved.
+    run(command_undo);
+    run(command_next_tile);
+    EXPECT_FALSE(tileset().is_modified());
 }

@@ -78,9 +78,9 @@ TEST_F(PaneTest, FramesOutlineTheClientArea) {
     Text_Pane pane(Rectangle{10, 10, 100, 50}, "F");
     const Rectangle c = pane.get_area();
     g_main_window->clear();
-    pane.draw_frame_filled(ui_colors[17]);
-    EXPECT_EQ(read_pixel(c.x, c.y), ui_colors[17]);
-    EXPECT_EQ(read_pixel(c.x + c.width - 1, c.y + c.height - 1), ui_colors[17]);
+    pane.draw_frame_filled(ui_colors[ui_red]);
+    EXPECT_EQ(read_pixel(c.x, c.y), ui_colors[ui_red]);
+    EXPECT_EQ(read_pixel(c.x + c.width - 1, c.y + c.height - 1), ui_colors[ui_red]);
     EXPECT_EQ(read_pixel(c.x + c.width, c.y), ui_colors[background_color_index]);
     g_main_window->clear();
     pane.draw();
