@@ -16,6 +16,13 @@ TEST_F(Drawing, AFastPenStrokeLeavesNoGaps) {
     EXPECT_EQ(tile().get_pixel(5, 5), Color());
     EXPECT_EQ(on_screen(5, 2), red);
     EXPECT_TRUE(g_editor->current()->is_modified());
+    // An even brush is centred on the cell and extends one pixel more to the right and down.
+    g_editor->run_command(command_select_brush_size_2);
+    stroke({{14, 14}});
+    EXPECT_EQ(tile().get_pixel(15, 14), red);
+    EXPECT_EQ(tile().get_pixel(14, 15), red);
+    EXPECT_EQ(tile().get_pixel(13, 14), Color());
+    EXPECT_EQ(tile().get_pixel(14, 13), Color());
 }
 
 TEST_F(Drawing, ThePenRightButtonFollowsItsMode) {
