@@ -26,24 +26,8 @@ TEST(Commands, DeliberateBindingsShareKeysAndDifferByModifier) {
     EXPECT_EQ(find_key('q', modifier_none), no_command);
 }
 
-TEST(Commands, TableKeepsItsInversesGroupsAndOddNames) {
+TEST(Commands, HelpTextsKeepTheirFirstSentenceLengthAndRealLineBreaks) {
     using namespace commands;
-    EXPECT_EQ(inverse(command_scroll_left), command_scroll_right);
-    EXPECT_EQ(inverse(command_mirror), command_mirror);
-    EXPECT_EQ(inverse(command_flip), command_flip);
-    EXPECT_EQ(inverse(command_delete_tile), command_undo_paste_tile);
-    EXPECT_EQ(inverse(command_append_tile), command_undo_delete_tile);
-    EXPECT_EQ(inverse(command_next_tile), command_change_tile);
-    EXPECT_EQ(inverse(command_pen), no_command);
-    EXPECT_STREQ(name(command_anti_alias), "Anti-alias ");
-    EXPECT_STREQ(key_label(command_save), "^s");
-    EXPECT_STREQ(key_label(command_pen), "p");
-    EXPECT_STREQ(key_label(command_line), " ");
-    EXPECT_EQ(group(command_rewind_strip), group_nothing);
-    EXPECT_EQ(group(command_arrange_select), group_tile_list);
-    EXPECT_TRUE(seam_off(command_export));
-    EXPECT_FALSE(seam_off(command_save));
-    EXPECT_STREQ(help(command_swap_tool_colors), "dsc");
     // The long help texts have their full length and keep their first sentence.
     const struct {
         int command;
@@ -73,22 +57,4 @@ TEST(Commands, CaptionsAddTheKeyLabelOnlyForKeyedCommands) {
     char tiny[6];
     commands::caption(command_save, tiny, sizeof tiny);
     EXPECT_STREQ(tiny, "Save ");
-}
-
-TEST(Commands, SetsMapToolsToPagesAndBrushModesAsTheyAlwaysHave) {
-    using namespace commands;
-    int tools = 0;
-    for (int c = 0; c < command_count; ++c) tools += is_tool(c);
-    EXPECT_EQ(tools, 17);
-    EXPECT_EQ(tool_options_index(command_work_selection), 16);
-    EXPECT_EQ(tool_options_index(command_stamp_brush), 13);
-    EXPECT_EQ(tool_options_index(command_save), -1);
-    // The brush selector passes the gate with no mode; the stamp brush has a mode it never gets.
-    EXPECT_TRUE(tool_has_brush_mode(command_brush_selector));
-    EXPECT_EQ(brush_mode(command_brush_selector), -1);
-    EXPECT_FALSE(tool_has_brush_mode(command_stamp_brush));
-    EXPECT_EQ(brush_mode(command_stamp_brush), 6);
-    EXPECT_TRUE(scrolls_strip_after(command_undo_paste_tile));
-    EXPECT_FALSE(resets_selection_after(command_undo_paste_tile));
-    EXPECT_TRUE(saves_copy_after(command_cut));
 }

@@ -46,33 +46,6 @@ TEST_F(DialogLayout, ItemsSizeThemselvesFromTheButtonTableAndTheirText) {
     EXPECT_EQ(list.area.height, regular().line_height());
 }
 
-TEST_F(DialogLayout, RowsPlaceItemsSevenPixelsApartAndSpriteButtonsTwoLower) {
-    auto row = make_number_row(10, 64, 0, 255, "Grid intensity:");
-    row->layout(30, 40);
-    const auto& items = row->items();
-    ASSERT_EQ(items.size(), 4u);
-    int x = 30;
-    int width = 0;
-    for (const auto& item : items) {
-        EXPECT_EQ(item->area.x, x);
-        x += item->area.width + 7;
-        width += item->area.width;
-    }
-    EXPECT_EQ(items[0]->area.y, 40);
-    EXPECT_EQ(items[1]->area.y, 42);  // "Less"
-    EXPECT_EQ(items[2]->area.y, 40);  // the number
-    EXPECT_EQ(items[3]->area.y, 42);  // "More"
-    EXPECT_EQ(row->area, (Rectangle{30, 40, width + 3 * 7, regular().line_height()}));
-    // Ids and hosts: buttons n and n + 2 aim at the number n + 1.
-    EXPECT_EQ(items[1]->id, 10u);
-    EXPECT_EQ(items[1]->host, 11u);
-    EXPECT_EQ(items[2]->id, 11u);
-    EXPECT_EQ(items[3]->id, 12u);
-    EXPECT_EQ(items[3]->host, 11u);
-    EXPECT_EQ(row->value_of(11), 64);
-    EXPECT_EQ(row->value_of(99), -1);
-}
-
 TEST_F(DialogLayout, ButtonBarsCentreOneButtonAndSpreadTwo) {
     auto one = make_button_bar(false);
     one->layout_as_button_bar(Rectangle{100, 50, 201, 300});
@@ -90,49 +63,6 @@ TEST_F(DialogLayout, ButtonBarsCentreOneButtonAndSpreadTwo) {
     two->items()[2]->set_position(3, 4);
     two->layout_as_button_bar(Rectangle{0, 0, 400, 300});
     EXPECT_EQ(two->items()[2]->area.x, 3);
-}
-
-TEST_F(DialogLayout, FrameIsTheRowsPlusFourteenAndRowsStackWithoutGaps) {
-    Dialog dialog("Layout");
-    dialog.add_text("First line of text\rsecond");
-    dialog.add_tick_row(40, true, "A tick");
-    dialog.add_number_row(90, 8, 0, 255, "Number:");
-    dialog.add_list_row(30, 0, "one,two,three$");
-    dialog.finish(true);
-
-    const auto& rows = dialog.container().rows();
-    ASSERT_EQ(rows.size(), 5u);
-    const Rectangle frame = dialog.pane().outer_area();
-    const Rectangle client = dialog.pane().get_area();
-    EXPECT_EQ(rows[0]->area.x, client.x);
-    EXPECT_EQ(rows[0]->area.y, client.y - 2);
-    int content_height = 0;
-    int widest = 0;
-    for (size_t i = 1; i < 4; ++i) {
-        EXPECT_EQ(rows[i]->area.y, rows[i - 1]->area.y + rows[i - 1]->area.height);
-        EXPECT_EQ(rows[i]->area.x, client.x);
-    }
-    for (size_t i = 0; i < 4; ++i) {
-        content_height += rows[i]->area.height;
-        widest = std::max(widest, rows[i]->area.width);
-    }
-    // The bar row was measured as a plain row of "Ok" and "Cancel".
-    widest = std::max(widest, 60 + 7 + 85);
-    EXPECT_EQ(frame.width, widest + 14);
-    EXPECT_EQ(frame.height - 21, content_height + 27 + 14);
-    // Centred in the window.
-    EXPECT_EQ(frame.x, (1232 - frame.width) / 2);
-    EXPECT_EQ(frame.y, (664 - frame.height) / 2);
-    // The bar sits at the bottom of the frame, below the last content row.
-    EXPECT_EQ(rows[4]->area, (Rectangle{frame.x, frame.y + frame.height - 34, frame.width, 27}));
-    EXPECT_GE(rows[4]->area.y, rows[3]->area.y + rows[3]->area.height);
-    EXPECT_EQ(rows[4]->items()[0]->area.x, frame.x + 7);
-
-    // After an event the rows are laid out again where they stand.
-    const Rectangle first = rows[0]->area;
-    dialog.update_all();
-    EXPECT_EQ(rows[0]->area, first);
-    EXPECT_EQ(rows[4]->area.y, frame.y + frame.height - 34);
 }
 
 TEST_F(DialogLayout, AOneLineMessageIsAsWideAsItsText) {

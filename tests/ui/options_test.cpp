@@ -33,34 +33,6 @@ protected:
     }
 };
 
-TEST_F(OptionsTest, WithoutAFileTheDefaultsHold) {
-    Options options;
-    for (int i = 0; i < Options::count; ++i) EXPECT_EQ(options.get(i), 0) << i;
-    options.load();
-    const int32_t expected[Options::count] = {2, 0, 1, 0, 10, 64, 1, 2, 2, 6, 6, 0};
-    for (int i = 0; i < Options::count; ++i) EXPECT_EQ(options.get(i), expected[i]) << Options::names[i];
-    EXPECT_TRUE(options.is_on(Options::show_shadow_brush));
-    EXPECT_FALSE(options.is_on(Options::confirm_quick_save));
-    EXPECT_STREQ(Options::names[4], "editor pixel size: ");
-}
-
-TEST_F(OptionsTest, RowsStandInTheirOrderWithTheCloneStyleLast) {
-    Options options;
-    const auto& rows = options.dialog().container().rows();
-    ASSERT_EQ(rows.size(), 13u);
-    // The first item with an id in each row.
-    const uint32_t first_ids[12] = {30, 40, 50, 70, 80, 90, 100, 110, 120, 150, 160, 130};
-    for (size_t r = 0; r < 12; ++r) {
-        uint32_t id = Dialog_Item::no_id;
-        for (const auto& item : rows[r]->items())
-            if (item->id != Dialog_Item::no_id) {
-                id = item->id;
-                break;
-            }
-        EXPECT_EQ(id, first_ids[r]) << r;
-    }
-}
-
 TEST_F(OptionsTest, AcceptWritesTheWholeDialogAndEditReloads) {
     Options options;
     options.load();
