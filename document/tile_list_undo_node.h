@@ -37,10 +37,11 @@ public:
     ~TileListUndoNode() override;
 
     Kind kind() const { return change; }
+    bool holds_change() const override { return true; }
     // Before the record before this one is applied.
-    void revert(Tile_Store& store) const;
+    void revert(Tile_Store& store) const override;
     // Before this record is applied again.
-    void reapply(Tile_Store& store) const;
+    void reapply(Tile_Store& store) const override;
 
 private:
     TileListUndoNode(int32_t command, Kind kind, int place, const Tile_Store& store, const Undo_Target* target);

@@ -1,7 +1,6 @@
 #include "document/undo_history.h"
 
 #include "app/commands.h"
-#include "document/tile_list_undo_node.h"
 #include "document/tile_store.h"
 #include "document/undo_target.h"
 
@@ -89,8 +88,8 @@ bool Undo_History::undo(Tile_Store& store, Undo_Target& target) {
     if (current <= 0) return false;
     const Undo_Node& shown = *records[size_t(current)];
     // A change of the tile list is taken back from what its record holds.
-    if (const auto* list = dynamic_cast<const TileListUndoNode*>(&shown))
-        list->revert(store);
+    if (shown.holds_change())
+        shown.revert(store);
     else if (shown.undo_command() >= 0)
         target.run_command(shown.undo_command());
     --current;
@@ -102,8 +101,8 @@ bool Undo_History::redo(Tile_Store& store, Undo_Target& target) {
     if (current < 0 || current + 1 >= count()) return false;
     ++current;
     const Undo_Node& next = *records[size_t(current)];
-    if (const auto* list = dynamic_cast<const TileListUndoNode*>(&next))
-        list->reapply(store);
+    if (next.holds_change())
+        next.reapply(store);
     else if (next.redo_command() >= 0)
         target.run_command(next.redo_command());
     records[size_t(current)]->apply(store, target);

@@ -24,6 +24,12 @@ public:
     virtual void apply(Tile_Store& store, Undo_Target& target) const = 0;
     // The record's picture with its top-left corner at (x, y).
     virtual void draw(int x, int y) const = 0;
+    // A record that holds its change itself (a change of the tile list) takes
+    // it back before the record before it is applied, and makes it again
+    // before it is applied itself; no command runs for it.
+    virtual bool holds_change() const { return false; }
+    virtual void revert(Tile_Store&) const {}
+    virtual void reapply(Tile_Store&) const {}
 
     int32_t undo_command() const { return undo; }
     int32_t redo_command() const { return redo; }
