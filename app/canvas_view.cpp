@@ -3,14 +3,14 @@
 #include <algorithm>
 #include <cstring>
 
-#include "app/draw_sink.h"
+#include "platform/draw_sink.h"
 
-#include "app/globals.h"
-#include "app/main_window.h"
-#include "app/ui_colors.h"
-#include "document/transforms.h"
-#include "selection/floating.h"
-#include "ui/wait_for_key.h"
+#include "platform/globals.h"
+#include "platform/main_window.h"
+#include "platform/ui_colors.h"
+#include "model/tile/transforms.h"
+#include "model/selection/floating.h"
+#include "platform/wait_for_key.h"
 
 namespace {
 // Floor division, so cells left of or above the tile get negative numbers.

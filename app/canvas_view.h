@@ -7,9 +7,9 @@
 #include <vector>
 
 #include "app/stroke_action.h"
-#include "color/color.h"
-#include "document/tile.h"
-#include "ui/rectangle.h"
+#include "model/color/color.h"
+#include "model/tile/tile.h"
+#include "model/core/rectangle.h"
 
 class Main_Window;
 

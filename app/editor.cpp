@@ -4,10 +4,10 @@
 #include <iterator>
 
 #include "app/canvas_view.h"
-#include "app/commands.h"
-#include "app/frame_cache.h"
-#include "app/globals.h"
-#include "app/main_window.h"
+#include "model/core/commands.h"
+#include "platform/frame_cache.h"
+#include "platform/globals.h"
+#include "platform/main_window.h"
 #include "app/stroke_action.h"
 #include "app/stroke_change.h"
 #include "app/strokes/drawing_tools.h"
@@ -16,10 +16,10 @@
 #include "app/tool_bar.h"
 #include "app/tool_options.h"
 #include "app/tool_options_link.h"
-#include "app/ui_colors.h"
+#include "platform/ui_colors.h"
 #include "app/undo_control.h"
-#include "color/color_editor.h"
-#include "selection/editor/selection_tools.h"
+#include "features/color/color_editor.h"
+#include "app/selection/selection_tools.h"
 #include "ui/backdrop.h"
 #include "ui/menu_bar.h"
 #include "ui/message_box.h"
@@ -27,7 +27,7 @@
 #include "ui/pane.h"
 #include "ui/preview_pane.h"
 #include "ui/ui_globals.h"
-#include "ui/wait_for_key.h"
+#include "platform/wait_for_key.h"
 
 Editor* g_editor = nullptr;
 

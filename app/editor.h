@@ -6,10 +6,10 @@
 #include <memory>
 #include <string>
 
-#include "app/commands.h"
+#include "model/core/commands.h"
 #include "app/position_readout.h"
-#include "document/tileset_list.h"
-#include "ui/rectangle.h"
+#include "model/tileset/tileset_list.h"
+#include "model/core/rectangle.h"
 
 class Canvas_View;
 class Color_Editor;

@@ -4,7 +4,7 @@
 
 #include <atomic>
 
-#include "document/tileset.h"
+#include "model/tileset/tileset.h"
 #include "ui/message_box.h"
 #include "ui/ui_globals.h"
 

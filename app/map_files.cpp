@@ -6,10 +6,10 @@
 #include <filesystem>
 #include <string>
 
-#include "app/image.h"
-#include "document/safe_file.h"
-#include "document/tileset.h"
-#include "mapeditor/map_file.h"
+#include "platform/image.h"
+#include "model/core/safe_file.h"
+#include "model/tileset/tileset.h"
+#include "model/map/map_file.h"
 #include "ui/message_box.h"
 #include "ui/ui_globals.h"
 

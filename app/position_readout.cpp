@@ -1,8 +1,8 @@
 #include "app/position_readout.h"
 
-#include "app/globals.h"
-#include "app/main_window.h"
-#include "ui/text_writer.h"
+#include "platform/globals.h"
+#include "platform/main_window.h"
+#include "platform/text_writer.h"
 
 // The blanks overwrite what a longer earlier readout left behind.
 void Position_Readout::draw() const {

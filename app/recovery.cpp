@@ -8,11 +8,11 @@
 
 #include "app/canvas_view.h"
 #include "app/editor.h"
-#include "app/image.h"
+#include "platform/image.h"
 #include "app/map_files.h"
-#include "document/tileset.h"
-#include "document/tileset_file.h"
-#include "mapeditor/map_file.h"
+#include "model/tileset/tileset.h"
+#include "model/tileset/tileset_file.h"
+#include "model/map/map_file.h"
 
 namespace fs = std::filesystem;
 

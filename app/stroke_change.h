@@ -2,7 +2,7 @@
 
 #include <vector>
 
-#include "color/color.h"
+#include "model/color/color.h"
 
 class Tile;
 

@@ -2,13 +2,13 @@
 
 #include <cstdio>
 
-#include "app/commands.h"
-#include "app/globals.h"
-#include "app/main_window.h"
-#include "app/sprites.h"
-#include "app/ui_colors.h"
-#include "document/tile_store.h"
-#include "document/tile_strip.h"
+#include "model/core/commands.h"
+#include "platform/globals.h"
+#include "platform/main_window.h"
+#include "platform/sprites.h"
+#include "platform/ui_colors.h"
+#include "model/tile/tile_store.h"
+#include "model/tile/tile_strip.h"
 
 namespace {
 // The buttons in the order the sheet draws them side by side, the current

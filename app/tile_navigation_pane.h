@@ -2,7 +2,7 @@
 
 #include <memory>
 
-#include "document/tileset_navigation.h"
+#include "model/tileset/tileset_navigation.h"
 #include "ui/pane.h"
 
 class Tile_Strip;

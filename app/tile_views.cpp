@@ -2,13 +2,13 @@
 
 #include <algorithm>
 
-#include "app/commands.h"
-#include "color/arrange_dialog.h"
-#include "document/tileset.h"
-#include "mapeditor/map_view.h"
+#include "model/core/commands.h"
+#include "features/viewers/arrange_dialog.h"
+#include "model/tileset/tileset.h"
+#include "features/map/map_view.h"
 #include "ui/options.h"
-#include "ui/real_size_view.h"
-#include "ui/repeated_view.h"
+#include "features/viewers/real_size_view.h"
+#include "features/viewers/repeated_view.h"
 #include "ui/ui_globals.h"
 
 namespace {

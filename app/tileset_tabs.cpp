@@ -2,11 +2,11 @@
 
 #include <algorithm>
 
-#include "app/globals.h"
-#include "app/main_window.h"
-#include "app/ui_colors.h"
-#include "document/tileset_list.h"
-#include "ui/text_writer.h"
+#include "platform/globals.h"
+#include "platform/main_window.h"
+#include "platform/ui_colors.h"
+#include "model/tileset/tileset_list.h"
+#include "platform/text_writer.h"
 
 namespace {
 Text_Writer& writer() { return g_main_window->writer(font_pane); }

@@ -3,7 +3,7 @@
 #include <string>
 #include <vector>
 
-#include "ui/rectangle.h"
+#include "model/core/rectangle.h"
 
 class Tileset_List;
 

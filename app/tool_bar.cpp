@@ -1,9 +1,9 @@
 #include "app/tool_bar.h"
 
-#include "app/commands.h"
-#include "app/globals.h"
-#include "app/main_window.h"
-#include "app/sprites.h"
+#include "model/core/commands.h"
+#include "platform/globals.h"
+#include "platform/main_window.h"
+#include "platform/sprites.h"
 
 // The filled shapes carry their own commands; the icon of a clone brush is
 // the stamp brush, the pen selector the brush selector, the mover the scroll

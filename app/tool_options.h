@@ -5,9 +5,9 @@
 #include <array>
 #include <memory>
 
-#include "color/brush_selector.h"
-#include "color/color_tools.h"
-#include "document/tool_pages.h"
+#include "features/color/brush_selector.h"
+#include "features/color/color_tools.h"
+#include "model/tileset/tool_pages.h"
 #include "ui/pane.h"
 
 class Buffer_Pane;

@@ -1,14 +1,14 @@
 #include "app/undo_control.h"
 
 #include "app/canvas_view.h"
-#include "app/commands.h"
+#include "model/core/commands.h"
 #include "app/editor.h"
 #include "app/tool_options.h"
-#include "document/tile_list_undo_node.h"
-#include "document/tileset.h"
-#include "selection/editor/selection_tools.h"
-#include "viewers/undo_history_viewer.h"
-#include "viewers/undo_meter.h"
+#include "model/tileset/tile_list_undo_node.h"
+#include "model/tileset/tileset.h"
+#include "app/selection/selection_tools.h"
+#include "features/viewers/undo_history_viewer.h"
+#include "features/viewers/undo_meter.h"
 
 Undo_Control::Undo_Control(Editor& editor)
     : editor(editor), undo_meter(std::make_unique<Undo_Meter>(meter_x, meter_y)) {}

@@ -2,7 +2,7 @@
 
 #include <memory>
 
-#include "document/undo_target.h"
+#include "model/tileset/undo_target.h"
 
 class Editor;
 class TileListUndoNode;

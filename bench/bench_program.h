@@ -8,7 +8,7 @@
 
 #include "app/application.h"
 #include "app/editor.h"
-#include "app/globals.h"
+#include "platform/globals.h"
 
 // The real program on SDL's dummy driver (the software renderer): start-up in
 // a scratch directory holding the sprite sheet, with the first tileset made.

@@ -7,10 +7,10 @@
 #include <random>
 #include <string>
 
-#include "app/brush_pad_pane.h"
+#include "features/brushpad/brush_pad_pane.h"
 #include "app/tool_options.h"
 #include "bench/bench_program.h"
-#include "brushpad/brush_pad_file.h"
+#include "model/brushpad/brush_pad_file.h"
 
 namespace {
 // The worst case: every brush 64 x 64 pixels of different colours, so no

@@ -6,7 +6,7 @@
 
 #include "app/canvas_view.h"
 #include "app/editor.h"
-#include "app/globals.h"
+#include "platform/globals.h"
 #include "ui/backdrop.h"
 
 // The stroke loop's repaint hook: stamps each event and pushes the next one.

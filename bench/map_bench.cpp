@@ -3,11 +3,11 @@
 // present of the same window; and the seam check of such a map alone.
 #include <benchmark/benchmark.h>
 
-#include "app/main_window.h"
-#include "bench_program.h"
-#include "document/tileset.h"
-#include "mapeditor/map_view.h"
-#include "mapeditor/seam_check.h"
+#include "platform/main_window.h"
+#include "bench/bench_program.h"
+#include "model/tileset/tileset.h"
+#include "features/map/map_view.h"
+#include "model/map/seam_check.h"
 #include "ui/backdrop.h"
 
 namespace {

@@ -7,11 +7,11 @@
 #include <benchmark/benchmark.h>
 
 #include "app/canvas_view.h"
-#include "app/commands.h"
-#include "app/frame_cache.h"
-#include "app/main_window.h"
-#include "bench_program.h"
-#include "document/tile.h"
+#include "model/core/commands.h"
+#include "platform/frame_cache.h"
+#include "platform/main_window.h"
+#include "bench/bench_program.h"
+#include "model/tile/tile.h"
 
 namespace {
 void BM_clear_and_present(benchmark::State& state) {

@@ -3,7 +3,7 @@
 
 #include <random>
 
-#include "document/tile.h"
+#include "model/tile/tile.h"
 
 namespace {
 

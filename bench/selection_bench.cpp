@@ -9,17 +9,17 @@
 #include <vector>
 
 #include "app/canvas_view.h"
-#include "app/commands.h"
+#include "model/core/commands.h"
 #include "app/editor.h"
-#include "app/globals.h"
+#include "platform/globals.h"
 #include "app/strokes/drawing_tools.h"
 #include "app/undo_control.h"
-#include "bench_program.h"
-#include "canvas_drag.h"
-#include "document/distance_grid.h"
-#include "document/tile.h"
-#include "selection/free_rotation.h"
-#include "selection/mask_ops.h"
+#include "bench/bench_program.h"
+#include "bench/canvas_drag.h"
+#include "model/paint/distance_grid.h"
+#include "model/tile/tile.h"
+#include "model/selection/free_rotation.h"
+#include "model/selection/mask_ops.h"
 #include "ui/backdrop.h"
 
 namespace {

@@ -11,7 +11,7 @@
 
 #include <unistd.h>
 
-#include "document/tileset_file.h"
+#include "model/tileset/tileset_file.h"
 
 namespace {
 

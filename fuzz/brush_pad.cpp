@@ -4,8 +4,8 @@
 #include <cstdlib>
 #include <string>
 
-#include "brushpad/brush_pad.h"
-#include "brushpad/brush_pad_file.h"
+#include "model/brushpad/brush_pad.h"
+#include "model/brushpad/brush_pad_file.h"
 #include "fuzz/fatal_throws.h"
 #include "fuzz/support.h"
 

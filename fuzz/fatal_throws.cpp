@@ -1,7 +1,7 @@
 // Replaces app/fatal.cpp in the fuzz build (see the top-level CMakeLists.txt).
 #include "fuzz/fatal_throws.h"
 
-#include "app/fatal.h"
+#include "model/core/fatal.h"
 
 namespace {
 Fatal_Hook last_words = nullptr;

@@ -3,8 +3,8 @@
 #include <string>
 
 #include "fuzz/support.h"
-#include "mapeditor/map_editor.h"
-#include "mapeditor/map_file.h"
+#include "model/map/map_editor.h"
+#include "model/map/map_file.h"
 
 namespace {
 constexpr int tile_count = 10;

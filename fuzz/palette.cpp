@@ -5,7 +5,7 @@
 #include <cstdlib>
 #include <string>
 
-#include "color/palette.h"
+#include "model/color/palette.h"
 #include "fuzz/fatal_throws.h"
 #include "fuzz/support.h"
 

@@ -6,10 +6,10 @@
 #include <cstdlib>
 #include <string>
 
-#include "app/sprites.h"
+#include "platform/sprites.h"
 #include "fuzz/fatal_throws.h"
 #include "fuzz/support.h"
-#include "ui/image_pool.h"
+#include "platform/image_pool.h"
 
 namespace {
 

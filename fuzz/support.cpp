@@ -9,7 +9,7 @@
 #include <string>
 
 #include "app/application.h"
-#include "app/data_directory.h"
+#include "platform/data_directory.h"
 
 namespace fs = std::filesystem;
 

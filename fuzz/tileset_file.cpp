@@ -2,7 +2,7 @@
 #include <cstdlib>
 #include <string>
 
-#include "document/tileset_file.h"
+#include "model/tileset/tileset_file.h"
 #include "fuzz/fatal_throws.h"
 #include "fuzz/support.h"
 

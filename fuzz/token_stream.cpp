@@ -3,8 +3,8 @@
 #include <cstdlib>
 #include <string>
 
-#include "app/data_file.h"
-#include "app/token_stream.h"
+#include "model/core/data_file.h"
+#include "model/core/token_stream.h"
 #include "fuzz/fatal_throws.h"
 #include "fuzz/support.h"
 

@@ -1,7 +1,7 @@
 #include "ui/backdrop.h"
 
-#include "app/globals.h"
-#include "app/main_window.h"
+#include "platform/globals.h"
+#include "platform/main_window.h"
 
 void Backdrop::set_base(Painter painter, void* context) { base = Layer{painter, context, nullptr}; }
 

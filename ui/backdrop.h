@@ -1,6 +1,6 @@
 #pragma once
 
-#include "ui/rectangle.h"
+#include "model/core/rectangle.h"
 
 // What a modal box repaints behind itself before each wait: the editor (or,
 // before it is installed, a cleared window) and every modal layer still open

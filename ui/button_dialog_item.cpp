@@ -1,10 +1,10 @@
 #include "ui/button_dialog_item.h"
 
-#include "app/globals.h"
-#include "app/main_window.h"
-#include "app/sprites.h"
-#include "ui/image_pool.h"
-#include "ui/text_writer.h"
+#include "platform/globals.h"
+#include "platform/main_window.h"
+#include "platform/sprites.h"
+#include "platform/image_pool.h"
+#include "platform/text_writer.h"
 #include "ui/ui_style.h"
 
 // The unequal widths of the text buttons are deliberate.

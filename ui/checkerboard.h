@@ -2,7 +2,7 @@
 
 #include <cstdint>
 
-#include "app/ui_colors.h"
+#include "platform/ui_colors.h"
 
 // The checkerboard shown behind transparent pixels in the tile views, light
 // and dark grey, and a pixel laid over it.

@@ -2,17 +2,17 @@
 
 #include <SDL3/SDL.h>
 
-#include "app/data_directory.h"
-#include "app/data_file.h"
-#include "app/debug_log.h"
-#include "app/globals.h"
-#include "app/main_window.h"
-#include "document/safe_file.h"
+#include "platform/data_directory.h"
+#include "model/core/data_file.h"
+#include "platform/debug_log.h"
+#include "platform/globals.h"
+#include "platform/main_window.h"
+#include "model/core/safe_file.h"
 #include "ui/backdrop.h"
 #include "ui/dialog_rows.h"
 #include "ui/message_box.h"
 #include "ui/ui_globals.h"
-#include "ui/wait_for_key.h"
+#include "platform/wait_for_key.h"
 
 namespace {
 constexpr SDL_Keycode key_escape = 27;

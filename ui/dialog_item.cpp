@@ -1,8 +1,8 @@
 #include "ui/dialog_item.h"
 
-#include "app/debug_log.h"
-#include "app/globals.h"
-#include "app/main_window.h"
+#include "platform/debug_log.h"
+#include "platform/globals.h"
+#include "platform/main_window.h"
 
 Dialog_Item::Dialog_Item(uint32_t id, uint32_t host)
     : id(id), host(host), writer(&g_main_window->writer(font_regular)) {}

@@ -2,9 +2,9 @@
 
 #include <cstdint>
 
-#include "app/token_stream.h"
+#include "model/core/token_stream.h"
 #include "ui/dialog_event.h"
-#include "ui/rectangle.h"
+#include "model/core/rectangle.h"
 
 class Text_Writer;
 

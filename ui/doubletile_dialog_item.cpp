@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-#include "document/tile.h"
+#include "model/tile/tile.h"
 
 Doubletile_Dialog_Item::Doubletile_Dialog_Item(uint32_t id, uint32_t host, Tile& left, Tile& right)
     : Dialog_Item(id, host), left(&left), right(&right) {

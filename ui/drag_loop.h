@@ -2,10 +2,10 @@
 
 #include <SDL3/SDL.h>
 
-#include "app/globals.h"
-#include "app/main_window.h"
+#include "platform/globals.h"
+#include "platform/main_window.h"
 #include "ui/backdrop.h"
-#include "ui/event_source.h"
+#include "platform/event_source.h"
 
 // The loop of a drag: repaint behind, wait, and hand every motion to the
 // caller until a button is released or a quit arrives. The caller flushes

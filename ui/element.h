@@ -1,6 +1,6 @@
 #pragma once
 
-#include "ui/rectangle.h"
+#include "model/core/rectangle.h"
 
 // A screen region with the small virtual interface every visible part of the
 // window shares: where its owner draws, how it lays itself out, how it draws

@@ -1,9 +1,9 @@
 #include "ui/image_dialog_item.h"
 
-#include "app/globals.h"
-#include "app/main_window.h"
-#include "app/texture.h"
-#include "ui/image_pool.h"
+#include "platform/globals.h"
+#include "platform/main_window.h"
+#include "platform/texture.h"
+#include "platform/image_pool.h"
 
 Image_Dialog_Item::Image_Dialog_Item(int sprite) : Dialog_Item(no_id, no_id), sprite(sprite) {
     area.width = g_main_window->pool().sprite_width(sprite);

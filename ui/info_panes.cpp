@@ -1,8 +1,8 @@
 #include "ui/info_panes.h"
 
-#include "app/globals.h"
-#include "app/main_window.h"
-#include "ui/text_writer.h"
+#include "platform/globals.h"
+#include "platform/main_window.h"
+#include "platform/text_writer.h"
 
 namespace {
 Text_Writer& writer_at_client(const Rectangle& client) {

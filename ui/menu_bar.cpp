@@ -1,12 +1,12 @@
 #include "ui/menu_bar.h"
 
-#include "app/commands.h"
-#include "app/globals.h"
-#include "app/main_window.h"
-#include "app/ui_colors.h"
+#include "model/core/commands.h"
+#include "platform/globals.h"
+#include "platform/main_window.h"
+#include "platform/ui_colors.h"
 #include "ui/backdrop.h"
-#include "ui/text_writer.h"
-#include "ui/wait_for_key.h"
+#include "platform/text_writer.h"
+#include "platform/wait_for_key.h"
 
 namespace {
 struct Row {

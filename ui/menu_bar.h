@@ -6,7 +6,7 @@
 #include <vector>
 
 #include "ui/backdrop.h"
-#include "ui/rectangle.h"
+#include "model/core/rectangle.h"
 
 // One entry of a menu: a command (or -1 for a separator or a title) and the
 // text that marks the row.

@@ -2,10 +2,10 @@
 
 #include <SDL3/SDL.h>
 
-#include "app/globals.h"
-#include "app/main_window.h"
-#include "app/sprites.h"
-#include "document/tileset.h"
+#include "platform/globals.h"
+#include "platform/main_window.h"
+#include "platform/sprites.h"
+#include "model/tileset/tileset.h"
 #include "ui/dialog.h"
 #include "ui/preview_pane.h"
 

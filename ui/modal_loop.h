@@ -2,10 +2,10 @@
 
 #include <SDL3/SDL.h>
 
-#include "app/globals.h"
-#include "app/main_window.h"
+#include "platform/globals.h"
+#include "platform/main_window.h"
 #include "ui/backdrop.h"
-#include "ui/event_source.h"
+#include "platform/event_source.h"
 
 // The loop of a modal window: the window is a backdrop layer while it runs,
 // the editor and every open layer are painted and presented before each wait,

@@ -3,7 +3,7 @@
 #include <cstdio>
 
 #include "ui/number_prompt.h"
-#include "ui/text_writer.h"
+#include "platform/text_writer.h"
 
 Number_Dialog_Item::Number_Dialog_Item(uint32_t id, uint32_t host, int32_t value, int32_t min,
                                        int32_t max)

@@ -6,12 +6,12 @@
 #include <cstdio>
 #include <cstdlib>
 
-#include "app/globals.h"
-#include "app/main_window.h"
+#include "platform/globals.h"
+#include "platform/main_window.h"
 #include "ui/backdrop.h"
-#include "ui/text_writer.h"
+#include "platform/text_writer.h"
 #include "ui/ui_style.h"
-#include "ui/wait_for_key.h"
+#include "platform/wait_for_key.h"
 
 namespace {
 constexpr int padding = 4;

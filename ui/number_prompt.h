@@ -4,7 +4,7 @@
 #include <optional>
 
 #include "ui/backdrop.h"
-#include "ui/rectangle.h"
+#include "model/core/rectangle.h"
 
 // The small modal box in which a number is typed: digits, a leading minus and
 // Backspace edit it; the first key replaces the value shown. Return accepts a

@@ -1,9 +1,9 @@
 #include "ui/pane.h"
 
-#include "app/globals.h"
-#include "app/main_window.h"
-#include "ui/image_pool.h"
-#include "ui/text_writer.h"
+#include "platform/globals.h"
+#include "platform/main_window.h"
+#include "platform/image_pool.h"
+#include "platform/text_writer.h"
 #include "ui/ui_style.h"
 
 Pane::Pane(const Rectangle& area, const char* title) : Element(area) {

@@ -2,8 +2,8 @@
 
 #include <memory>
 
-#include "app/texture.h"
-#include "color/color.h"
+#include "platform/texture.h"
+#include "model/color/color.h"
 #include "ui/backdrop.h"
 #include "ui/element.h"
 

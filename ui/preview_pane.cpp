@@ -2,11 +2,11 @@
 
 #include <algorithm>
 
-#include "app/globals.h"
-#include "app/main_window.h"
-#include "app/texture.h"
-#include "app/ui_colors.h"
-#include "document/tile.h"
+#include "platform/globals.h"
+#include "platform/main_window.h"
+#include "platform/texture.h"
+#include "platform/ui_colors.h"
+#include "model/tile/tile.h"
 
 namespace {
 constexpr int widest_repeat = 191;

@@ -3,7 +3,7 @@
 #include <memory>
 #include <vector>
 
-#include "color/color.h"
+#include "model/color/color.h"
 #include "ui/pane.h"
 
 class Texture;

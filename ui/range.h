@@ -2,7 +2,7 @@
 
 #include <cstdint>
 
-#include "app/token_stream.h"
+#include "model/core/token_stream.h"
 
 // A bounded integer that wraps instead of clamping, so stepping past either
 // end cycles to the other one.

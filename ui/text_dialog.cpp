@@ -1,6 +1,6 @@
 #include "ui/text_dialog.h"
 
-#include "ui/text_writer.h"
+#include "platform/text_writer.h"
 
 Text_Dialog::Text_Dialog(const char* text) : Dialog_Item(no_id, no_id), content(text) { update(); }
 

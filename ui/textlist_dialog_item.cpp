@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-#include "ui/text_writer.h"
+#include "platform/text_writer.h"
 
 namespace {
 // Entries up to the "$"; a text without one ends where the text ends.

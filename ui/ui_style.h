@@ -1,6 +1,6 @@
 #pragma once
 
-#include "app/ui_colors.h"
+#include "platform/ui_colors.h"
 
 // The interface colours the panes and dialog items draw with. The regular
 // and pane fonts are dark, so bodies and buttons are light greys.

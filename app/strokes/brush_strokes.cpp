@@ -3,7 +3,7 @@
 #include "app/canvas_view.h"
 #include "app/editor.h"
 #include "app/strokes/stroke_context.h"
-#include "color/color_forms.h"
+#include "model/color/color_forms.h"
 
 void Brush_Stroke::begin(Canvas_View& view, Cell& start, int button) {
     (void)start;

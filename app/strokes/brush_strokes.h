@@ -1,7 +1,7 @@
 #pragma once
 
 #include "app/stroke_action.h"
-#include "color/color.h"
+#include "model/color/color.h"
 
 class Stroke_Context;
 class Tile;

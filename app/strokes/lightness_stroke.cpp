@@ -5,7 +5,7 @@
 #include "app/canvas_view.h"
 #include "app/editor.h"
 #include "app/strokes/stroke_context.h"
-#include "ui/event_source.h"
+#include "platform/event_source.h"
 
 void Lightness_Stroke::begin(Canvas_View& view, Cell& start, int button) {
     (void)button;

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "app/stroke_action.h"
-#include "document/adjust.h"
+#include "model/paint/adjust.h"
 
 class Stroke_Context;
 

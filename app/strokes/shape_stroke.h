@@ -1,7 +1,7 @@
 #pragma once
 
 #include "app/stroke_action.h"
-#include "document/painter.h"
+#include "model/paint/painter.h"
 
 class Stroke_Context;
 

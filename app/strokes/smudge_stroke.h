@@ -1,7 +1,7 @@
 #pragma once
 
 #include "app/stroke_action.h"
-#include "document/smudge.h"
+#include "model/paint/smudge.h"
 
 class Stroke_Context;
 

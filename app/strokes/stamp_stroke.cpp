@@ -3,7 +3,7 @@
 #include "app/canvas_view.h"
 #include "app/editor.h"
 #include "app/strokes/stroke_context.h"
-#include "document/brush_stamp.h"
+#include "model/paint/brush_stamp.h"
 
 void Stamp_Stroke::begin(Canvas_View& view, Cell& start, int button) {
     (void)button;

@@ -3,9 +3,9 @@
 #include <functional>
 
 #include "app/strokes/tool_settings.h"
-#include "document/distance_grid.h"
-#include "document/footprint.h"
-#include "document/painter.h"
+#include "model/paint/distance_grid.h"
+#include "model/paint/footprint.h"
+#include "model/paint/painter.h"
 
 class Canvas_View;
 

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "color/color.h"
-#include "document/smudge.h"
+#include "model/color/color.h"
+#include "model/paint/smudge.h"
 
 class Tile;
 

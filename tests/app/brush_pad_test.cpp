@@ -6,11 +6,11 @@
 #include <filesystem>
 
 #include "app/application.h"
-#include "app/brush_pad_pane.h"
-#include "app/debug_log.h"
+#include "features/brushpad/brush_pad_pane.h"
+#include "platform/debug_log.h"
 #include "app/tool_options.h"
 #include "app/undo_control.h"
-#include "document/safe_file.h"
+#include "model/core/safe_file.h"
 #include "tests/app/drawing_fixture.h"
 #include "tests/ui/event_script.h"
 

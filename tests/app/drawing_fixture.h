@@ -5,10 +5,10 @@
 #include <vector>
 
 #include "app/canvas_view.h"
-#include "app/commands.h"
+#include "model/core/commands.h"
 #include "app/editor.h"
-#include "app/globals.h"
-#include "app/main_window.h"
+#include "platform/globals.h"
+#include "platform/main_window.h"
 #include "app/strokes/drawing_tools.h"
 #include "support/headless.h"
 #include "ui/backdrop.h"

@@ -4,10 +4,10 @@
 #include <gtest/gtest.h>
 
 #include "app/canvas_view.h"
-#include "app/commands.h"
+#include "model/core/commands.h"
 #include "app/file_dialog.h"
-#include "app/globals.h"
-#include "app/main_window.h"
+#include "platform/globals.h"
+#include "platform/main_window.h"
 #include "app/prompt_dialogs.h"
 #include "app/stroke_action.h"
 #include "app/tileset_tabs.h"

@@ -3,9 +3,9 @@
 // repaint of everything would draw it.
 #include <gtest/gtest.h>
 
-#include "app/frame_cache.h"
+#include "platform/frame_cache.h"
 #include "app/tool_options.h"
-#include "drawing_fixture.h"
+#include "tests/app/drawing_fixture.h"
 
 namespace {
 class KeptFrame : public Drawing {

@@ -8,10 +8,10 @@
 #include <fstream>
 
 #include "app/editor.h"
-#include "app/globals.h"
-#include "document/tileset.h"
-#include "document/tileset_file.h"
-#include "mapeditor/map_file.h"
+#include "platform/globals.h"
+#include "model/tileset/tileset.h"
+#include "model/tileset/tileset_file.h"
+#include "model/map/map_file.h"
 #include "support/editor_fixture.h"
 #include "tests/ui/event_script.h"
 

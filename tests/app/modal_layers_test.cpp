@@ -9,10 +9,10 @@
 #include <string>
 #include <vector>
 
-#include "app/commands.h"
+#include "model/core/commands.h"
 #include "app/editor.h"
-#include "app/globals.h"
-#include "app/main_window.h"
+#include "platform/globals.h"
+#include "platform/main_window.h"
 #include "app/prompt_dialogs.h"
 #include "app/tool_bar.h"
 #include "app/tool_options.h"

@@ -5,15 +5,15 @@
 #include <gtest/gtest.h>
 
 #include "app/canvas_view.h"
-#include "app/commands.h"
+#include "model/core/commands.h"
 #include "app/editor.h"
-#include "app/globals.h"
-#include "app/image.h"
-#include "app/main_window.h"
-#include "app/sprites.h"
-#include "document/tileset.h"
+#include "platform/globals.h"
+#include "platform/image.h"
+#include "platform/main_window.h"
+#include "platform/sprites.h"
+#include "model/tileset/tileset.h"
 #include "support/editor_fixture.h"
-#include "ui/image_pool.h"
+#include "platform/image_pool.h"
 
 namespace {
 constexpr int strip_y = 664 - 28;

@@ -5,14 +5,14 @@
 #include <filesystem>
 
 #include "app/canvas_view.h"
-#include "app/commands.h"
+#include "model/core/commands.h"
 #include "app/editor.h"
 #include "app/file_dialog.h"
 #include "app/recovery.h"
 #include "app/tool_options.h"
-#include "document/tileset.h"
-#include "document/tileset_file.h"
-#include "mapeditor/map_file.h"
+#include "model/tileset/tileset.h"
+#include "model/tileset/tileset_file.h"
+#include "model/map/map_file.h"
 #include "app/undo_control.h"
 #include "support/editor_fixture.h"
 #include "ui/event_script.h"

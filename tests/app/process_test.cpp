@@ -4,7 +4,7 @@
 #include <cstdio>
 #include <filesystem>
 
-#include "app/data_file.h"
+#include "model/core/data_file.h"
 #include "support/headless.h"
 #include "support/process.h"
 

@@ -4,11 +4,11 @@
 
 #include "app/editor.h"
 #include "app/tool_options.h"
-#include "app/ui_colors.h"
-#include "color/brush_selector.h"
-#include "color/color_tools.h"
-#include "color/palette.h"
-#include "color/palette_area.h"
+#include "platform/ui_colors.h"
+#include "features/color/brush_selector.h"
+#include "features/color/color_tools.h"
+#include "model/color/palette.h"
+#include "features/color/palette_area.h"
 #include "support/headless.h"
 
 namespace {

@@ -17,16 +17,16 @@
 
 #include "app/application.h"
 #include "app/canvas_view.h"
-#include "app/commands.h"
+#include "model/core/commands.h"
 #include "app/editor.h"
 #include "app/file_dialog.h"
-#include "app/globals.h"
-#include "app/main_window.h"
+#include "platform/globals.h"
+#include "platform/main_window.h"
 #include "support/dir_watch.h"
 #include "support/headless.h"
 #include "support/soak_events.h"
 #include "ui/backdrop.h"
-#include "ui/event_source.h"
+#include "platform/event_source.h"
 
 namespace fs = std::filesystem;
 

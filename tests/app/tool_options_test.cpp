@@ -1,6 +1,6 @@
 #include <gtest/gtest.h>
 
-#include "app/commands.h"
+#include "model/core/commands.h"
 #include "app/editor.h"
 #include "app/tool_options.h"
 #include "support/headless.h"

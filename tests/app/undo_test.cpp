@@ -3,7 +3,7 @@
 #include "app/undo_control.h"
 #include "tests/app/drawing_fixture.h"
 #include "ui/backdrop.h"
-#include "viewers/undo_meter.h"
+#include "features/viewers/undo_meter.h"
 
 namespace {
 const Color red(220, 20, 30);

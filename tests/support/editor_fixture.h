@@ -1,7 +1,7 @@
 #pragma once
 
 #include "app/editor.h"
-#include "app/globals.h"
+#include "platform/globals.h"
 #include "support/headless.h"
 
 // The real program with its first tileset made, fed events as its main loop

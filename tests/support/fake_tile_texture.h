@@ -4,9 +4,9 @@
 #include <memory>
 #include <vector>
 
-#include "color/color.h"
-#include "document/tile.h"
-#include "document/tile_texture.h"
+#include "model/color/color.h"
+#include "model/tile/tile.h"
+#include "model/tile/tile_texture.h"
 
 // A texture that remembers the pixels it was last given, so that tests can
 // tell whether a tile's on-screen image was brought up to date.

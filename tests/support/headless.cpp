@@ -1,9 +1,9 @@
 #include "support/headless.h"
 
 #include "app/application.h"
-#include "app/data_directory.h"
-#include "app/globals.h"
-#include "app/main_window.h"
+#include "platform/data_directory.h"
+#include "platform/globals.h"
+#include "platform/main_window.h"
 
 namespace fs = std::filesystem;
 

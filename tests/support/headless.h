@@ -7,8 +7,8 @@
 #include <memory>
 #include <string>
 
-#include "color/color.h"
-#include "ui/rectangle.h"
+#include "model/color/color.h"
+#include "model/core/rectangle.h"
 #include "support/scratch_dir.h"
 
 // Runs the real start-up of the program on SDL's dummy video driver (a window

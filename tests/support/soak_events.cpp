@@ -4,7 +4,7 @@
 #include <iterator>
 #include <vector>
 
-#include "app/commands.h"
+#include "model/core/commands.h"
 
 namespace {
 struct Area {

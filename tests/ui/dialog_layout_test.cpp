@@ -1,16 +1,16 @@
 #include <gtest/gtest.h>
 
-#include "app/globals.h"
-#include "app/main_window.h"
-#include "app/sprites.h"
-#include "ui/image_pool.h"
+#include "platform/globals.h"
+#include "platform/main_window.h"
+#include "platform/sprites.h"
+#include "platform/image_pool.h"
 #include "support/headless.h"
 #include "ui/button_dialog_item.h"
 #include "ui/dialog.h"
 #include "ui/dialog_rows.h"
 #include "ui/number_dialog_item.h"
 #include "ui/text_dialog.h"
-#include "ui/text_writer.h"
+#include "platform/text_writer.h"
 #include "ui/textlist_dialog_item.h"
 
 class DialogLayout : public Headless {

@@ -3,8 +3,8 @@
 #include <filesystem>
 #include <fstream>
 
-#include "app/debug_log.h"
-#include "app/globals.h"
+#include "platform/debug_log.h"
+#include "platform/globals.h"
 #include "support/headless.h"
 #include "tests/ui/event_script.h"
 #include "ui/dialog.h"

@@ -2,16 +2,16 @@
 
 #include <gtest/gtest.h>
 
-#include "app/globals.h"
-#include "app/main_window.h"
+#include "platform/globals.h"
+#include "platform/main_window.h"
 #include "support/headless.h"
 #include "tests/ui/event_script.h"
 #include "ui/backdrop.h"
 #include "ui/dialog.h"
 #include "ui/ui_style.h"
 #include "ui/ui_globals.h"
-#include "ui/image_pool.h"
-#include "app/sprites.h"
+#include "platform/image_pool.h"
+#include "platform/sprites.h"
 
 // The program's own message box object, made by start-up after the window.
 class MessageBoxTest : public Headless {};

@@ -5,7 +5,7 @@
 #include "support/headless.h"
 #include "tests/ui/event_script.h"
 #include "ui/dialog.h"
-#include "ui/text_writer.h"
+#include "platform/text_writer.h"
 #include "ui/ui_style.h"
 
 class NumberPrompt : public Headless {

@@ -4,13 +4,13 @@
 
 #include <cstring>
 
-#include "app/globals.h"
-#include "app/main_window.h"
-#include "app/ui_colors.h"
+#include "platform/globals.h"
+#include "platform/main_window.h"
+#include "platform/ui_colors.h"
 #include "support/headless.h"
 #include "ui/info_panes.h"
 #include "ui/text_pane.h"
-#include "ui/text_writer.h"
+#include "platform/text_writer.h"
 #include "ui/ui_style.h"
 
 TEST(RectangleTest, ContainmentIsHalfOpenAndFloatsTruncate) {

@@ -4,8 +4,8 @@
 #include <gtest/gtest.h>
 
 #include "app/drawing_fixture.h"
-#include "app/frame_cache.h"
-#include "document/tileset.h"
+#include "platform/frame_cache.h"
+#include "model/tileset/tileset.h"
 #include "ui/message_box.h"
 #include "ui/ui_globals.h"
 

@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-#include "document/tile.h"
+#include "model/tile/tile.h"
 #include "support/headless.h"
 #include "ui/doubletile_dialog_item.h"
 

@@ -1,4 +1,0 @@
-#include "app/globals.h"
-
-Debug_Log* g_debug_log = nullptr;
-Main_Window* g_main_window = nullptr;

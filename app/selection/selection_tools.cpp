@@ -1,0 +1,236 @@
+#include "app/selection/selection_tools.h"
+
+#include "app/canvas_view.h"
+#include "model/core/commands.h"
+#include "app/editor.h"
+#include "app/strokes/drawing_tools.h"
+#include "app/tool_options.h"
+#include "app/undo_control.h"
+#include "model/tileset/tileset.h"
+#include "model/selection/anti_alias.h"
+#include "model/selection/floating.h"
+#include "model/selection/mask_ops.h"
+#include "ui/message_box.h"
+#include "ui/options.h"
+#include "ui/ui_globals.h"
+
+namespace {
+const char* const paste_refused = "Nothing selected to paste. Use Copy or Cut to select an image.";
+const char* const copy_refused = "Nothing selected to copy. Select an area with a selector first.";
+const char* const cut_refused = "Nothing selected to cut. Select an area with a selector first.";
+const char* const clone_refused = "Nothing selected to clone. Select an area with a selector first.";
+const char* const fill_refused = "Nothing selected to fill. Select an area with a selector first.";
+const char* const clear_refused = "Nothing selected to clear. Select an area with a selector first.";
+const char* const smooth_refused = "Nothing to smooth: there are no stair steps here.";
+}  // namespace
+
+Selection_Tools::Selection_Tools(Editor& editor) : editor(editor) {
+    editor.set_stroke(command_scroll, &scroll);
+    editor.set_stroke(command_freehand_rotate, &rotate);
+    editor.set_stroke(command_brush_selector, &brush);
+    editor.set_stroke(command_circle_selector, &ellipse);
+    editor.set_stroke(command_rectangle_selector, &rectangle);
+    editor.set_stroke(command_wand_selector, &wand);
+    editor.set_stroke(command_work_selection, &work);
+    g_copy_buffer = &copies;
+}
+
+Selection_Tools::~Selection_Tools() {
+    if (g_copy_buffer == &copies) g_copy_buffer = nullptr;
+}
+
+Canvas_View& Selection_Tools::canvas() { return editor.canvas(); }
+
+int Selection_Tools::mode() const { return g_tool_options ? g_tool_options->selection_mode() : standard; }
+
+bool Selection_Tools::handles(int command) {
+    switch (command) {
+        case command_deselect:
+        case command_invert_selection:
+        case command_fill:
+        case command_clear:
+        case command_copy:
+        case command_cut:
+        case command_paste:
+        case command_clone:
+        case command_anti_alias:
+            return true;
+        default:
+            return false;
+    }
+}
+
+int Selection_Tools::execute(int command) {
+    if (!canvas().tile() || !editor.current()) return -1;
+    switch (command) {
+        case command_deselect: return deselect();
+        case command_invert_selection:
+            put_down();
+            mask_ops::invert(*canvas().selection());
+            canvas().set_has_selection(mask_ops::any_selected(*canvas().selection()));
+            return record(command);
+        case command_fill: return fill(false);
+        case command_clear: return fill(true);
+        case command_copy: return copy();
+        case command_cut: return cut();
+        case command_paste: return paste();
+        case command_clone: return clone();
+        case command_anti_alias: return smooth();
+        default: return -1;
+    }
+}
+
+int Selection_Tools::refuse(const char* why) {
+    if (why && g_message_box) g_message_box->note(why);
+    return -1;
+}
+
+// These commands have no inverse: they record themselves, with the mask and
+// any floating image, as soon as they have done their work.
+int Selection_Tools::record(int command) {
+    editor.undo().record(command);
+    return command;
+}
+
+std::unique_ptr<Tile> Selection_Tools::selection_image() const {
+    Canvas_View& view = editor.canvas();
+    if (const Tile* f = view.floating_image()) {
+        auto image = std::make_unique<Tile>(f->width(), f->height());
+        f->copy_into(*image);
+        return image;
+    }
+    if (!view.has_selection() || !view.tile()) return nullptr;
+    return selected_pixels(*view.tile(), *view.selection());
+}
+
+void Selection_Tools::put_down() { canvas().commit_float(); }
+
+void Selection_Tools::leaving_work_selection() {
+    if (editor.undo().replaying() || mode() == persistent) return;
+    put_down();
+}
+
+// Leaving its tile puts the image down as a step of its own: the records of
+// other tiles know nothing of it, so without this step a redo across the
+// change of tile would drop the image instead of putting it down.
+void Selection_Tools::tile_changing() {
+    if (editor.undo().replaying() || mode() == persistent || !canvas().float_pending()) return;
+    put_down();
+    editor.undo().record_put_down();
+}
+
+bool Selection_Tools::float_selection(bool lift) {
+    Canvas_View& view = canvas();
+    Tile* tile = view.tile();
+    if (!tile || !view.has_selection()) return false;
+    int x = 0;
+    int y = 0;
+    std::unique_ptr<Tile> image;
+    if (lift) {
+        image = floating::lift(*tile, *view.selection(), x, y);
+        tile->update_texture();
+    } else {
+        image = selected_pixels(*tile, *view.selection());
+        const Rectangle box = mask_ops::bounds(*view.selection());
+        x = box.x;
+        y = box.y;
+    }
+    if (!image) return false;
+    view.reset_selection();
+    view.paste(*image, x, y);
+    return true;
+}
+
+// Space puts a floating image down and drops the selection.
+int Selection_Tools::deselect() {
+    Canvas_View& view = canvas();
+    if (!view.has_selection() && !view.float_pending()) return -1;
+    put_down();
+    view.reset_selection();
+    return record(command_deselect);
+}
+
+// Fill in the left tool colour, or Clear to transparent. Clear also throws a
+// floating image away. Both change pixels, so the tileset is marked modified.
+int Selection_Tools::fill(bool transparent) {
+    Canvas_View& view = canvas();
+    const int command = transparent ? command_clear : command_fill;
+    if (transparent && view.float_pending()) {
+        view.replace_float(nullptr, 0, 0);
+    } else {
+        if (!view.has_selection()) return refuse(transparent ? clear_refused : fill_refused);
+        const Color c = transparent ? Color(0, 0, 0, 0) : editor.drawing().refresh().left_color;
+        mask_ops::fill_selected(*view.tile(), *view.selection(), c);
+        view.tile()->update_texture();
+    }
+    return record(command);
+}
+
+int Selection_Tools::copy() {
+    Canvas_View& view = canvas();
+    if (const Tile* f = view.floating_image()) {
+        const SDL_Point at = view.floating_position();
+        copies.keep(*f, at.x, at.y, view.tile()->width(), view.tile()->height());
+        return command_copy;
+    }
+    if (!view.has_selection() || !copies.copy(*view.tile(), *view.selection())) return refuse(copy_refused);
+    return command_copy;
+}
+
+int Selection_Tools::cut() {
+    Canvas_View& view = canvas();
+    if (!view.has_selection() && !view.float_pending()) return refuse(cut_refused);
+    copy();
+    if (view.float_pending()) {
+        view.replace_float(nullptr, 0, 0);
+    } else {
+        mask_ops::fill_selected(*view.tile(), *view.selection(), Color(0, 0, 0, 0));
+        view.tile()->update_texture();
+    }
+    return record(command_cut);
+}
+
+// A copy pastes where it was taken from when the tile has the size of the
+// one it came from; otherwise the clone style places it.
+int Selection_Tools::paste() {
+    Canvas_View& view = canvas();
+    const Tile* image = copies.current();
+    if (!image) return refuse(paste_refused);
+    const Tile& tile = *view.tile();
+    if (copies.source_tile_width() == tile.width() && copies.source_tile_height() == tile.height()) {
+        view.paste(*image, copies.source().x, copies.source().y);
+    } else {
+        const int style = g_options ? g_options->get(Options::clone_style) : Copy_Buffer::centre;
+        const Placement p = copies.place(tile.width(), tile.height(), style);
+        view.paste(*p.image, p.x, p.y);
+    }
+    view.reset_selection();
+    editor.select_tool(command_work_selection);
+    editor.undo().record(command_work_selection);
+    return command_paste;
+}
+
+// A floating image leaves a copy where it stands and keeps floating; a
+// selection is copied into a floating image at its place, ready to be moved.
+int Selection_Tools::clone() {
+    Canvas_View& view = canvas();
+    if (const Tile* f = view.floating_image()) {
+        const SDL_Point at = view.floating_position();
+        floating::stamp_wrapped(*view.tile(), *f, at.x, at.y);
+        view.tile()->update_texture();
+    } else if (!float_selection(false)) {
+        return refuse(clone_refused);
+    }
+    editor.select_tool(command_work_selection);
+    return record(command_clone);
+}
+
+int Selection_Tools::smooth() {
+    Canvas_View& view = canvas();
+    put_down();
+    if (anti_alias(*view.tile(), view.has_selection() ? view.selection() : nullptr) == 0) {
+        return refuse(smooth_refused);
+    }
+    view.tile()->update_texture();
+    return record(command_anti_alias);
+}

@@ -1,0 +1,218 @@
+#include "features/map/map_view.h"
+
+#include <algorithm>
+
+#include "platform/globals.h"
+#include "platform/main_window.h"
+#include "platform/texture.h"
+#include "model/tile/tile_store.h"
+#include "model/map/map_editor.h"
+#include "ui/backdrop.h"
+#include "ui/modal_loop.h"
+#include "platform/wait_for_key.h"
+
+namespace {
+constexpr SDL_Keycode key_escape = 27;
+constexpr int gap = 12;
+constexpr int row_gap = 8;
+constexpr int button_height = 28;
+
+void paint_view(void* view) { static_cast<Map_View*>(view)->draw(); }
+Backdrop::Area view_area(const void* view) { return static_cast<const Map_View*>(view)->modal_area(); }
+
+Rectangle centred_frame() {
+    const int width = Map_View::map_room + gap + Map_View::chooser_size + Pane::inset_left + Pane::inset_right;
+    const int height = Map_View::map_room + row_gap + button_height + Pane::inset_top + Pane::inset_bottom;
+    return Rectangle{(int(g_main_window->width()) - width) / 2, (int(g_main_window->height()) - height) / 2, width,
+                     height - Pane::header_height};
+}
+
+// The map's size in tile pixels.
+int map_width(const Map_Editor& e, const Tile_Store& s) { return std::max(e.map().columns() * int(s.tile_width()), 1); }
+int map_height(const Map_Editor& e, const Tile_Store& s) { return std::max(e.map().rows() * int(s.tile_height()), 1); }
+
+std::string title_for(const std::string& name) { return "Map editor - " + name; }
+}  // namespace
+
+Map_View::Map_View(Map_Editor& editor, const Tile_Store& store, const std::string& name)
+    : editor(editor),
+      store(store),
+      pane(centred_frame(), title_for(name).c_str()),
+      factor(std::max(1, std::min(map_room / map_width(editor, store), map_room / map_height(editor, store)))),
+      chosen(store.tile_count() > 0 ? store.current_index() : -1),
+      start_generation(editor.generation()) {
+    map_pixels.assign(size_t(map_width(editor, store)) * factor * size_t(map_height(editor, store)) * factor,
+                      Color());
+    composed_cells.assign(size_t(editor.map().cell_count()), -2);
+    compose_chooser();
+    compose_map();
+}
+
+Map_View::~Map_View() = default;
+
+Rectangle Map_View::picture() const {
+    const Rectangle c = pane.client_area();
+    const int w = editor.map().columns() * int(store.tile_width()) * factor;
+    const int h = editor.map().rows() * int(store.tile_height()) * factor;
+    return Rectangle{c.x + (map_room - w) / 2, c.y + (map_room - h) / 2, w, h};
+}
+
+Rectangle Map_View::chooser() const {
+    const Rectangle c = pane.client_area();
+    return Rectangle{c.x + map_room + gap, c.y, chooser_size, chooser_size};
+}
+
+Rectangle Map_View::button(int which) const {
+    const Rectangle c = pane.client_area();
+    constexpr int width = 64;
+    constexpr int spacing = 4;
+    const int y = c.y + map_room + row_gap;
+    if (which == button_close) return Rectangle{c.x + c.width - width, y, width, button_height};
+    // Tools, then the toggles, then undo and redo, each group a little apart.
+    const int group_gap = which >= button_undo ? 2 * gap : which >= button_grid ? gap : 0;
+    return Rectangle{c.x + which * (width + spacing) + group_gap, y, width, button_height};
+}
+
+bool Map_View::cell_at(float x, float y, int& column, int& row) const {
+    const Rectangle p = picture();
+    if (!p.contains(x, y)) return false;
+    column = (int(x) - p.x) / (int(store.tile_width()) * factor);
+    row = (int(y) - p.y) / (int(store.tile_height()) * factor);
+    return !editor.map().is_outside(column, row);
+}
+
+Rectangle Map_View::cell_area(int column, int row) const {
+    const Rectangle p = picture();
+    const int w = int(store.tile_width()) * factor;
+    const int h = int(store.tile_height()) * factor;
+    return Rectangle{p.x + column * w, p.y + row * h, w, h};
+}
+
+int Map_View::chooser_hit(float x, float y) const {
+    const Rectangle c = chooser();
+    if (!c.contains(x, y)) return -1;
+    const int index = ((int(y) - c.y) / chooser_cell) * chooser_columns + (int(x) - c.x) / chooser_cell;
+    return index < store.tile_count() ? index : -1;
+}
+
+const std::vector<Seam>& Map_View::seam_list() {
+    if (checked_generation != editor.generation()) {
+        checker.run(editor.map(), store);
+        checked_generation = editor.generation();
+    }
+    return checker.seams();
+}
+
+Map_View::Outcome Map_View::run() {
+    run_modal_layer(paint_view, this, view_area, [this](SDL_Event& event) { return handle(event); });
+    editor.end_stroke();
+    flush_events();
+    return Outcome{picked ? chosen : -1, editor.generation() != start_generation};
+}
+
+bool Map_View::handle(const SDL_Event& event) {
+    switch (event.type) {
+        case SDL_EVENT_QUIT:
+        case SDL_EVENT_WINDOW_CLOSE_REQUESTED:
+            return false;
+        case SDL_EVENT_KEY_DOWN: {
+            const bool ctrl = (event.key.mod & SDL_KMOD_CTRL) != 0;
+            switch (event.key.key) {
+                case key_escape: return false;
+                case SDLK_P: push_button(button_paint); break;
+                case SDLK_F: push_button(button_fill); break;
+                case SDLK_E: push_button(button_eraser); break;
+                case SDLK_G: push_button(button_grid); break;
+                case SDLK_S: push_button(button_seams); break;
+                case SDLK_Z:
+                    if (ctrl) push_button(button_undo);
+                    break;
+                case SDLK_Y:
+                    if (ctrl) push_button(button_redo);
+                    break;
+                default: break;
+            }
+            return true;
+        }
+        case SDL_EVENT_MOUSE_BUTTON_DOWN:
+            if (event.button.button == SDL_BUTTON_LEFT && button(button_close).contains(event.button.x, event.button.y))
+                return false;
+            press(event.button.x, event.button.y, event.button.button);
+            return true;
+        case SDL_EVENT_MOUSE_BUTTON_UP:
+            if (event.button.button == SDL_BUTTON_LEFT && stroking) {
+                stroking = false;
+                editor.end_stroke();
+            }
+            return true;
+        case SDL_EVENT_MOUSE_MOTION:
+            motion(event.motion.x, event.motion.y);
+            return true;
+        default:
+            return true;
+    }
+}
+
+void Map_View::choose(int tile) {
+    if (tile < 0) return;
+    chosen = tile;
+    picked = true;
+}
+
+void Map_View::press(float x, float y, Uint8 mouse_button) {
+    int column = 0;
+    int row = 0;
+    if (cell_at(x, y, column, row)) {
+        if (mouse_button == SDL_BUTTON_RIGHT) {
+            const int under = editor.map().at(column, row);
+            if (under < store.tile_count()) choose(under);
+        } else if (mouse_button == SDL_BUTTON_LEFT) {
+            const int tile = current_tool == tool_eraser ? Tile_Map::empty : chosen;
+            if (current_tool == tool_fill) {
+                editor.fill(column, row, tile);
+            } else if (tile >= 0 || current_tool == tool_eraser) {
+                editor.begin_stroke();
+                editor.paint(column, row, tile);
+                stroking = true;
+                last_column = column;
+                last_row = row;
+            }
+        }
+        return;
+    }
+    if (mouse_button == SDL_BUTTON_LEFT || mouse_button == SDL_BUTTON_RIGHT) choose(chooser_hit(x, y));
+    if (mouse_button != SDL_BUTTON_LEFT) return;
+    for (int b = 0; b < button_count; ++b)
+        if (button(b).contains(x, y)) push_button(b);
+}
+
+void Map_View::motion(float x, float y) {
+    int column = -1;
+    int row = -1;
+    if (!cell_at(x, y, column, row)) column = row = -1;
+    hover_column = column;
+    hover_row = row;
+    if (!stroking || column < 0) return;
+    const int tile = current_tool == tool_eraser ? Tile_Map::empty : chosen;
+    editor.paint_line(last_column, last_row, column, row, tile);
+    last_column = column;
+    last_row = row;
+}
+
+void Map_View::push_button(int which) {
+    switch (which) {
+        case button_paint: current_tool = tool_paint; break;
+        case button_fill: current_tool = tool_fill; break;
+        case button_eraser: current_tool = tool_eraser; break;
+        case button_grid: grid = !grid; break;
+        case button_seams: seams = !seams; break;
+        case button_undo: editor.undo(); break;
+        case button_redo: editor.redo(); break;
+        default: break;
+    }
+}
+
+Map_View::Outcome show_map_editor(Map_Editor& editor, const Tile_Store& store, const std::string& name) {
+    Map_View view(editor, store, name);
+    return view.run();
+}

@@ -1,0 +1,103 @@
+#pragma once
+
+#include <SDL3/SDL.h>
+
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "model/map/seam_check.h"
+#include "ui/pane.h"
+#include "model/core/rectangle.h"
+
+class Map_Editor;
+class Texture;
+class Tile_Store;
+
+// The map editor's window: the map at the largest whole zoom that fits, the
+// tileset's tiles to choose from, and a row of buttons. The left button
+// paints the chosen tile into cells (a drag paints a line of cells), fills
+// or erases, by the tool; the right button picks the tile under the pointer.
+// Escape, "Close", a quit or a close request close it. Keys: p paint, f fill,
+// e eraser, g grid, s seams, Ctrl+Z undo, Ctrl+Y redo.
+class Map_View {
+public:
+    enum Tool { tool_paint, tool_fill, tool_eraser };
+    enum Button { button_paint, button_fill, button_eraser, button_grid, button_seams, button_undo, button_redo,
+                  button_close, button_count };
+    static constexpr int map_room = 560;
+    static constexpr int chooser_columns = 16;
+    static constexpr int chooser_cell = 32;
+    static constexpr int chooser_size = chooser_columns * chooser_cell;
+
+    Map_View(Map_Editor& editor, const Tile_Store& store, const std::string& name);
+    ~Map_View();
+    Map_View(const Map_View&) = delete;
+    Map_View& operator=(const Map_View&) = delete;
+
+    struct Outcome {
+        int chosen;    // the tile last chosen or picked, -1 for none
+        bool changed;  // the map was edited
+    };
+    Outcome run();
+
+    int zoom() const { return factor; }
+    Rectangle picture() const;
+    Rectangle chooser() const;
+    Rectangle button(int which) const;
+    Rectangle frame() const { return pane.outer_area(); }
+    Backdrop::Area modal_area() const { return pane.modal_area(); }
+    // The cell under a window point; false outside the map.
+    bool cell_at(float x, float y, int& column, int& row) const;
+    Rectangle cell_area(int column, int row) const;
+    // The tile under a window point in the chooser, -1 for none.
+    int chooser_hit(float x, float y) const;
+    int chosen_tile() const { return chosen; }
+    Tool tool() const { return current_tool; }
+    bool grid_shown() const { return grid; }
+    bool seams_shown() const { return seams; }
+    // The seams of the map as it stands (checked when the map changed).
+    const std::vector<Seam>& seam_list();
+
+    // False when the event closes the view.
+    bool handle(const SDL_Event& event);
+    void draw();
+
+private:
+    void press(float x, float y, Uint8 mouse_button);
+    void motion(float x, float y);
+    void push_button(int which);
+    void choose(int tile);
+    void compose_map();
+    void compose_chooser();
+    void draw_buttons();
+    void draw_marks(const Rectangle& p);
+    void draw_status();
+
+    Map_Editor& editor;
+    const Tile_Store& store;
+    Pane pane;
+    int factor;
+    int chosen;
+    bool picked = false;
+    Tool current_tool = tool_paint;
+    bool grid = false;
+    bool seams = false;
+    bool stroking = false;
+    int last_column = -1;
+    int last_row = -1;
+    int hover_column = -1;
+    int hover_row = -1;
+    uint64_t start_generation;
+    uint64_t composed_generation = ~uint64_t(0);
+    uint64_t checked_generation = ~uint64_t(0);
+    std::vector<int> composed_cells;
+    std::vector<Color> map_pixels;
+    std::unique_ptr<Texture> map_image;
+    std::unique_ptr<Texture> chooser_image;
+    Seam_Check checker;
+    std::vector<Rectangle> marks;
+};
+
+// The view run on a tileset's map; what the user chose and whether the map changed.
+Map_View::Outcome show_map_editor(Map_Editor& editor, const Tile_Store& store, const std::string& name);

@@ -1,0 +1,194 @@
+// The map view's pictures and how it draws them. The map and the chooser are
+// composed into textures only when they change; the grid and the seam marks
+// go over the map as batches of fills, so a repaint costs a few draws
+// whatever the map holds.
+#include <algorithm>
+#include <cstdio>
+
+#include "platform/globals.h"
+#include "platform/main_window.h"
+#include "platform/texture.h"
+#include "model/tile/tile_store.h"
+#include "model/map/map_editor.h"
+#include "features/map/map_view.h"
+#include "ui/checkerboard.h"
+#include "platform/text_writer.h"
+#include "ui/ui_style.h"
+
+namespace {
+constexpr int checker_cell = 8;
+// An empty cell, darker than the checkerboard a transparent tile shows.
+constexpr Color empty_color = ui_colors[ui_dark_grey];
+constexpr Color grid_color = ui_colors[ui_grey_128];
+constexpr Color seam_color = ui_colors[ui_red];
+constexpr Color chosen_color = ui_colors[ui_cyan];
+constexpr Color hover_color = ui_colors[ui_white];
+constexpr Color pressed_face = ui_colors[ui_background];
+// A seam mark covers this many pixels on each side of its edge.
+constexpr int seam_half_width = 1;
+
+const char* const button_labels[Map_View::button_count] = {"Paint", "Fill", "Eraser", "Grid",
+                                                           "Seams", "Undo", "Redo", "Close"};
+
+// The tile's pixel at (x, y) of a picture of w x h pixels showing it whole.
+Color sampled(const Tile& tile, int x, int y, int w, int h) {
+    return tile.get_pixel(x * tile.width() / std::max(w, 1), y * tile.height() / std::max(h, 1));
+}
+}  // namespace
+
+// Only the cells that changed since the last composition are drawn again.
+void Map_View::compose_map() {
+    if (composed_generation == editor.generation() && map_image) return;
+    composed_generation = editor.generation();
+    const Tile_Map& map = editor.map();
+    const int cw = int(store.tile_width()) * factor;
+    const int ch = int(store.tile_height()) * factor;
+    const int stride = map.columns() * cw;
+    bool any = false;
+    for (int cell = 0; cell < map.cell_count(); ++cell) {
+        const int tile = map.at(cell) < store.tile_count() ? map.at(cell) : Tile_Map::empty;
+        if (composed_cells[size_t(cell)] == tile) continue;
+        composed_cells[size_t(cell)] = tile;
+        any = true;
+        const int left = (cell % map.columns()) * cw;
+        const int top = (cell / map.columns()) * ch;
+        const Tile* t = tile >= 0 ? store.tile_at(tile) : nullptr;
+        for (int y = 0; y < ch; ++y) {
+            Color* row = map_pixels.data() + size_t(top + y) * size_t(stride) + size_t(left);
+            for (int x = 0; x < cw; ++x) {
+                if (!t) {
+                    row[x] = empty_color;
+                    continue;
+                }
+                const bool light = ((left + x) / checker_cell + (top + y) / checker_cell) % 2 == 0;
+                row[x] = on_checkerboard(t->get_pixel(x / factor, y / factor), light);
+            }
+        }
+    }
+    if (!map_image) {
+        map_image.reset(Texture::from_pixels(g_main_window->renderer(), map_pixels.data(), std::max(stride, 1),
+                                             std::max(map.rows() * ch, 1)));
+        map_image->set_opaque(true);
+    } else if (any) {
+        map_image->update(map_pixels.data());
+    }
+}
+
+// Each tile fitted into its cell: small tiles magnified by a whole factor,
+// large ones shrunk, both keeping their shape.
+void Map_View::compose_chooser() {
+    std::vector<Color> pixels(size_t(chooser_size) * chooser_size, pane_body_color);
+    const int room = chooser_cell - 2;
+    const int tw = std::max(int(store.tile_width()), 1);
+    const int th = std::max(int(store.tile_height()), 1);
+    const int longer = std::max(tw, th);
+    const int w = longer <= room ? tw * (room / longer) : std::max(1, tw * room / longer);
+    const int h = longer <= room ? th * (room / longer) : std::max(1, th * room / longer);
+    int index = 0;
+    for (const auto& tile : store.all()) {
+        if (index >= chooser_columns * chooser_columns) break;
+        const int left = (index % chooser_columns) * chooser_cell + (chooser_cell - w) / 2;
+        const int top = (index / chooser_columns) * chooser_cell + (chooser_cell - h) / 2;
+        for (int y = 0; y < h; ++y)
+            for (int x = 0; x < w; ++x) {
+                const bool light = (x / 4 + y / 4) % 2 == 0;
+                pixels[size_t(top + y) * chooser_size + size_t(left + x)] =
+                    on_checkerboard(sampled(*tile, x, y, w, h), light);
+            }
+        ++index;
+    }
+    chooser_image.reset(Texture::from_pixels(g_main_window->renderer(), pixels.data(), chooser_size, chooser_size));
+    chooser_image->set_opaque(true);
+}
+
+void Map_View::draw() {
+    Main_Window& w = *g_main_window;
+    pane.draw();
+    compose_map();
+    const Rectangle p = picture();
+    map_image->draw_at(p.x, p.y);
+    draw_marks(p);
+    const Rectangle c = chooser();
+    chooser_image->draw_at(c.x, c.y);
+    w.frame(Rectangle{p.x - 1, p.y - 1, p.width + 2, p.height + 2}, pane_frame_color);
+    w.frame(Rectangle{c.x - 1, c.y - 1, c.width + 2, c.height + 2}, pane_frame_color);
+    auto cell_of = [&](int index) {
+        return Rectangle{c.x + (index % chooser_columns) * chooser_cell, c.y + (index / chooser_columns) * chooser_cell,
+                         chooser_cell, chooser_cell};
+    };
+    if (chosen >= 0 && chosen < chooser_columns * chooser_columns) {
+        const Rectangle r = cell_of(chosen);
+        w.frame(r, chosen_color);
+        w.frame(Rectangle{r.x + 1, r.y + 1, r.width - 2, r.height - 2}, chosen_color);
+    }
+    if (hover_column >= 0) {
+        const Rectangle r = cell_area(hover_column, hover_row);
+        w.frame(r, hover_color);
+    }
+    draw_buttons();
+    draw_status();
+}
+
+// The grid's lines and the seams' marks, each as one batch of fills.
+void Map_View::draw_marks(const Rectangle& p) {
+    Main_Window& w = *g_main_window;
+    const Tile_Map& map = editor.map();
+    const int cw = int(store.tile_width()) * factor;
+    const int ch = int(store.tile_height()) * factor;
+    if (grid) {
+        marks.clear();
+        for (int x = 1; x < map.columns(); ++x) marks.push_back(Rectangle{p.x + x * cw, p.y, 1, p.height});
+        for (int y = 1; y < map.rows(); ++y) marks.push_back(Rectangle{p.x, p.y + y * ch, p.width, 1});
+        w.fill_opaque(marks.data(), int(marks.size()), grid_color);
+    }
+    if (seams) {
+        marks.clear();
+        for (const Seam& s : seam_list()) {
+            if (s.vertical)
+                marks.push_back(Rectangle{p.x + (s.x + 1) * cw - seam_half_width, p.y + s.y * ch,
+                                          2 * seam_half_width, ch});
+            else
+                marks.push_back(Rectangle{p.x + s.x * cw, p.y + (s.y + 1) * ch - seam_half_width, cw,
+                                          2 * seam_half_width});
+        }
+        w.fill_opaque(marks.data(), int(marks.size()), seam_color);
+    }
+}
+
+void Map_View::draw_buttons() {
+    Main_Window& w = *g_main_window;
+    Text_Writer& t = w.writer(font_regular);
+    for (int b = 0; b < button_count; ++b) {
+        const Rectangle r = button(b);
+        const bool down = (b == button_paint && current_tool == tool_paint) ||
+                          (b == button_fill && current_tool == tool_fill) ||
+                          (b == button_eraser && current_tool == tool_eraser) || (b == button_grid && grid) ||
+                          (b == button_seams && seams);
+        if (down) {
+            w.fill_opaque(r, pressed_face);
+            w.bevel(r, pressed_face, true);
+        } else {
+            w.bevel_fill(r, button_face_color);
+        }
+        const char* label = button_labels[b];
+        t.write_at(r.x + (r.width - t.measure(label)) / 2, r.y + (r.height - t.line_height()) / 2, label);
+    }
+}
+
+void Map_View::draw_status() {
+    Main_Window& w = *g_main_window;
+    Text_Writer& t = w.writer(font_regular);
+    const Rectangle r = button(button_redo);
+    int x = r.x + r.width + 24;
+    const int y = r.y + (r.height - t.line_height()) / 2;
+    char text[64];
+    if (seams) {
+        std::snprintf(text, sizeof text, "Seams: %d", int(seam_list().size()));
+        t.write_at(x, y, text);
+        x += t.measure(text) + 24;
+    }
+    if (hover_column >= 0) {
+        std::snprintf(text, sizeof text, "Cell %d, %d", hover_column, hover_row);
+        t.write_at(x, y, text);
+    }
+}

@@ -1,0 +1,171 @@
+#include "model/map/map_editor.h"
+
+#include <utility>
+
+#include "model/core/line_walk.h"
+
+namespace {
+// The cells that held a tile when it left, and the mark its history entries got.
+struct Map_Uses : Tile_Uses {
+    std::vector<int> cells;
+    int mark = 0;
+};
+
+int cells_for(uint32_t tile_extent) { return Map_Editor::extent / int(tile_extent == 0 ? 1 : tile_extent); }
+}  // namespace
+
+Map_Editor::Map_Editor(uint32_t tile_width, uint32_t tile_height)
+    : cells(cells_for(tile_width), cells_for(tile_height)) {}
+
+void Map_Editor::begin_stroke() {
+    if (stroking) end_stroke();
+    stroking = true;
+    open_edit.cells.clear();
+}
+
+void Map_Editor::set_cell(int cell, int tile) {
+    const int before = cells.at(cell);
+    const int after = tile < 0 ? Tile_Map::empty : tile;
+    if (before == after) return;
+    cells.set(cell, after);
+    open_edit.cells.push_back(Map_Edit::Cell{cell, before, after});
+    ++changes;
+    count_edit();
+}
+
+void Map_Editor::paint(int x, int y, int tile) {
+    if (cells.is_outside(x, y)) return;
+    if (!stroking) begin_stroke();
+    set_cell(y * cells.columns() + x, tile);
+}
+
+void Map_Editor::paint_line(int x1, int y1, int x2, int y2, int tile) {
+    for_each_line_point(x1, y1, x2, y2, [&](int x, int y) { paint(x, y, tile); });
+}
+
+bool Map_Editor::end_stroke() {
+    if (!stroking) return false;
+    stroking = false;
+    const bool changed = !open_edit.cells.empty();
+    steps.record(std::move(open_edit));
+    open_edit = Map_Edit{};
+    return changed;
+}
+
+bool Map_Editor::fill(int x, int y, int tile) {
+    end_stroke();
+    if (cells.is_outside(x, y)) return false;
+    const int target = cells.at(x, y);
+    if (target == (tile < 0 ? Tile_Map::empty : tile)) return false;
+    begin_stroke();
+    // A stack of cells, each set as it is pushed so none is pushed twice.
+    std::vector<int> pending{y * cells.columns() + x};
+    set_cell(pending.back(), tile);
+    while (!pending.empty()) {
+        const int cell = pending.back();
+        pending.pop_back();
+        const int cx = cell % cells.columns();
+        const int cy = cell / cells.columns();
+        const int around[4][2] = {{cx - 1, cy}, {cx + 1, cy}, {cx, cy - 1}, {cx, cy + 1}};
+        for (const auto& n : around) {
+            if (cells.at(n[0], n[1]) != target || cells.is_outside(n[0], n[1])) continue;
+            pending.push_back(n[1] * cells.columns() + n[0]);
+            set_cell(pending.back(), tile);
+        }
+    }
+    return end_stroke();
+}
+
+bool Map_Editor::undo() {
+    end_stroke();
+    if (!steps.undo(cells)) return false;
+    ++changes;
+    count_edit();
+    return true;
+}
+
+bool Map_Editor::redo() {
+    end_stroke();
+    if (!steps.redo(cells)) return false;
+    ++changes;
+    count_edit();
+    return true;
+}
+
+int Map_Editor::take_cells(const Tile_Map& other) {
+    int left_out = 0;
+    for (int y = 0; y < other.rows(); ++y)
+        for (int x = 0; x < other.columns(); ++x) {
+            const int tile = other.at(x, y);
+            if (tile == Tile_Map::empty) continue;
+            if (cells.is_outside(x, y))
+                ++left_out;
+            else
+                cells.set(x, y, tile);
+            count_edit();
+        }
+    ++changes;
+    return left_out;
+}
+
+void Map_Editor::place(int x, int y, int tile) {
+    if (cells.at(x, y) != (tile < 0 ? Tile_Map::empty : tile)) count_edit();
+    cells.set(x, y, tile);
+    ++changes;
+}
+
+void Map_Editor::tile_inserted(int index) {
+    end_stroke();
+    if (cells.tile_inserted(index)) count_edit();
+    steps.tile_inserted(index);
+    ++changes;
+}
+
+void Map_Editor::tile_removed(int index) {
+    end_stroke();
+    if (cells.tile_removed(index)) count_edit();
+    steps.tile_removed(index);
+    ++changes;
+}
+
+void Map_Editor::tiles_swapped(int a, int b) {
+    end_stroke();
+    if (cells.tiles_swapped(a, b)) count_edit();
+    steps.tiles_swapped(a, b);
+    ++changes;
+}
+
+std::unique_ptr<Tile_Uses> Map_Editor::tile_leaving(int index) {
+    end_stroke();
+    auto uses = std::make_unique<Map_Uses>();
+    for (int c = 0; c < cells.cell_count(); ++c)
+        if (cells.at(c) == index) uses->cells.push_back(c);
+    uses->mark = next_mark--;
+    steps.leaving(index, uses->mark);
+    return uses;
+}
+
+// Cells the user filled again while the tile was away keep what they hold.
+void Map_Editor::tile_returned(int index, const Tile_Uses& uses) {
+    const auto* map_uses = dynamic_cast<const Map_Uses*>(&uses);
+    if (!map_uses) return;
+    for (const int c : map_uses->cells)
+        if (c < cells.cell_count() && cells.at(c) == Tile_Map::empty) {
+            cells.set(c, index);
+            count_edit();
+        }
+    steps.returned(map_uses->mark, index);
+    ++changes;
+}
+
+void Map_Editor::count_edit() {
+    const bool was_saved = is_saved();
+    ++edits;
+    if (was_saved && saved_state_changed) saved_state_changed();
+}
+
+void Map_Editor::mark_saved() {
+    const bool was_saved = is_saved();
+    saved_edits = edits;
+    if (!was_saved && saved_state_changed) saved_state_changed();
+}

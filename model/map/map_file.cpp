@@ -1,0 +1,431 @@
+#include "model/map/map_file.h"
+
+#include <tinyxml2.h>
+
+#include <algorithm>
+#include <cstdio>
+#include <cstdlib>
+#include <vector>
+#include <filesystem>
+#include <string>
+
+#include "model/core/safe_file.h"
+#include "model/map/map_editor.h"
+#include "model/map/map_text.h"
+
+namespace {
+// Tiled keeps flip and rotation flags in a cell's top bits.
+constexpr uint32_t flag_bits = 0xF0000000u;
+
+// The whole file name minus its extension (after the last dot), so that
+// "level.1.wst" and "level.2.wst" keep maps of their own.
+std::string beside(const std::string& tileset_path, const char* extension) {
+    const size_t separator = tileset_path.find_last_of("/\\");
+    const size_t start = separator == std::string::npos ? 0 : separator + 1;
+    const size_t dot = tileset_path.rfind('.');
+    const bool has_extension = dot != std::string::npos && dot > start;
+    return tileset_path.substr(0, has_extension ? dot : tileset_path.size()) + extension;
+}
+
+std::string file_name(const std::string& path) {
+    const size_t separator = path.find_last_of("/\\");
+    return separator == std::string::npos ? path : path.substr(separator + 1);
+}
+
+void add_problem(Map_File::Reading& r, const std::string& line) {
+    if (!r.problems.empty()) r.problems += "\r";
+    r.problems += line;
+}
+
+// The cell values of CSV text, one after another; a value that is no
+// unsigned 32-bit number comes as bad.
+class Csv_Cells {
+public:
+    explicit Csv_Cells(const char* text) : at(text ? text : "") {}
+    // False at the end of the text.
+    bool next(uint32_t& value, bool& bad) {
+        while (*at == ' ' || *at == '\n' || *at == '\r' || *at == '\t') ++at;
+        if (*at == '\0') return false;
+        uint64_t number = 0;
+        int digits = 0;
+        bad = false;
+        while (*at != ',' && *at != '\0') {
+            const char c = *at++;
+            if (c == ' ' || c == '\n' || c == '\r' || c == '\t') continue;
+            if (c < '0' || c > '9' || digits >= 10) {
+                bad = true;
+                continue;
+            }
+            number = number * 10 + uint64_t(c - '0');
+            ++digits;
+        }
+        if (*at == ',') ++at;
+        if (digits == 0 || number > 0xFFFFFFFFull) bad = true;
+        value = uint32_t(number);
+        return true;
+    }
+
+private:
+    const char* at;
+};
+
+int attribute(const tinyxml2::XMLElement* e, const char* name, int fallback) {
+    int value = fallback;
+    return e && e->QueryIntAttribute(name, &value) == tinyxml2::XML_SUCCESS ? value : fallback;
+}
+}  // namespace
+
+std::string Map_File::map_path(const std::string& tileset_path) { return beside(tileset_path, ".tmx"); }
+std::string Map_File::sheet_path(const std::string& tileset_path) { return beside(tileset_path, ".bmp"); }
+
+namespace {
+using namespace tinyxml2;
+
+// The map's first tile layer: the one this editor reads and writes.
+XMLElement* tile_layer(XMLElement* root) { return root->FirstChildElement("layer"); }
+
+// A new map with the tileset drawn from the sheet beside it.
+XMLElement* new_map(XMLDocument& doc, const std::string& sheet, uint32_t tile_width, uint32_t tile_height) {
+    doc.InsertEndChild(doc.NewDeclaration("xml version=\"1.0\" encoding=\"UTF-8\""));
+    XMLElement* root = doc.NewElement("map");
+    doc.InsertEndChild(root);
+    root->SetAttribute("version", "1.10");
+    root->SetAttribute("tiledversion", Map_File::tiled_version);
+    root->SetAttribute("orientation", "orthogonal");
+    root->SetAttribute("renderorder", "right-down");
+    root->SetAttribute("width", 0);
+    root->SetAttribute("height", 0);
+    root->SetAttribute("tilewidth", tile_width);
+    root->SetAttribute("tileheight", tile_height);
+    root->SetAttribute("infinite", 0);
+    root->SetAttribute("nextlayerid", 1);
+    root->SetAttribute("nextobjectid", 1);
+    XMLElement* tileset = root->InsertNewChildElement("tileset");
+    tileset->SetAttribute("firstgid", 1);
+    tileset->SetAttribute("name", sheet.substr(0, sheet.size() - 4).c_str());
+    tileset->SetAttribute("tilewidth", tile_width);
+    tileset->SetAttribute("tileheight", tile_height);
+    tileset->SetAttribute("tilecount", Map_File::sheet_columns * Map_File::sheet_rows);
+    tileset->SetAttribute("columns", Map_File::sheet_columns);
+    XMLElement* image = tileset->InsertNewChildElement("image");
+    image->SetAttribute("source", sheet.c_str());
+    image->SetAttribute("width", uint32_t(Map_File::sheet_columns) * tile_width);
+    image->SetAttribute("height", uint32_t(Map_File::sheet_rows) * tile_height);
+    return root;
+}
+
+// A tile layer added after the last layer or tileset, with the map's next id.
+XMLElement* add_tile_layer(XMLElement* root) {
+    int id = 1;
+    root->QueryIntAttribute("nextlayerid", &id);
+    XMLElement* layer = root->GetDocument()->NewElement("layer");
+    XMLElement* after = nullptr;
+    for (XMLElement* e = root->FirstChildElement(); e; e = e->NextSiblingElement()) after = e;
+    if (after)
+        root->InsertAfterChild(after, layer);
+    else
+        root->InsertEndChild(layer);
+    layer->SetAttribute("id", id);
+    layer->SetAttribute("name", "Tiles");
+    root->SetAttribute("nextlayerid", id + 1);
+    return layer;
+}
+
+// The area the layer must cover: its own, grown to hold every placed cell.
+void layer_size(const XMLElement* layer, const Tile_Map& map, int& columns, int& rows) {
+    columns = 0;
+    rows = 0;
+    if (layer) {
+        layer->QueryIntAttribute("width", &columns);
+        layer->QueryIntAttribute("height", &rows);
+    }
+    if (columns <= 0 || rows <= 0 || columns > map.columns() * 64 || rows > map.rows() * 64) {
+        columns = map.columns();
+        rows = map.rows();
+        return;
+    }
+    for (int y = 0; y < map.rows(); ++y)
+        for (int x = 0; x < map.columns(); ++x)
+            if (map.at(x, y) != Tile_Map::empty && (x >= columns || y >= rows)) {
+                columns = std::max(columns, map.columns());
+                rows = std::max(rows, map.rows());
+                return;
+            }
+}
+}  // namespace
+
+namespace {
+std::string csv_of(const Tile_Map& map, int columns, int rows, int first_gid) {
+    std::string csv = "\n";
+    for (int y = 0; y < rows; ++y) {
+        for (int x = 0; x < columns; ++x) {
+            const int tile = map.at(x, y);
+            csv += std::to_string(tile == Tile_Map::empty ? 0 : tile + first_gid);
+            if (x + 1 < columns || y + 1 < rows) csv += ',';
+        }
+        csv += '\n';
+    }
+    return csv;
+}
+
+struct Edit {
+    size_t at;
+    size_t length;
+    std::string text;
+};
+
+// The source with only the map's tag and its first tile layer's cells
+// replaced; empty when the source is no map this can edit.
+std::string edited(const std::string& source, const Tile_Map& map, uint32_t tile_width, uint32_t tile_height,
+                   const std::string& sheet) {
+    XMLDocument doc;
+    if (doc.Parse(source.c_str(), source.size()) != XML_SUCCESS || !doc.RootElement() ||
+        std::string(doc.RootElement()->Name()) != "map")
+        return {};
+    const map_text::Element root = map_text::child(source, 0, source.size(), "map");
+    if (!root.found || root.empty) return {};
+    XMLElement* root_element = doc.RootElement();
+    int first_gid = 1;
+    if (const XMLElement* tileset = root_element->FirstChildElement("tileset"))
+        tileset->QueryIntAttribute("firstgid", &first_gid);
+    int columns = 0;
+    int rows = 0;
+    layer_size(tile_layer(root_element), map, columns, rows);
+    const std::string csv = csv_of(map, columns, rows, first_gid);
+    const std::string data = "<data encoding=\"csv\">" + csv + "</data>";
+
+    std::vector<Edit> edits;
+    std::string root_tag = source.substr(root.tag_begin, root.tag_end - root.tag_begin);
+    const map_text::Element layer = map_text::child(source, root.tag_end, root.content_end, "layer");
+    auto sized = [&](std::string tag) {
+        if (map_text::attribute(tag, "width") != std::to_string(columns)) tag = map_text::with_attribute(tag, "width", std::to_string(columns));
+        if (map_text::attribute(tag, "height") != std::to_string(rows)) tag = map_text::with_attribute(tag, "height", std::to_string(rows));
+        return tag;
+    };
+    if (!layer.found) {
+        int id = 1;
+        root_element->QueryIntAttribute("nextlayerid", &id);
+        root_tag = map_text::with_attribute(root_tag, "nextlayerid", std::to_string(id + 1));
+        edits.push_back({root.content_end, 0,
+                         " <layer id=\"" + std::to_string(id) + "\" name=\"Tiles\" width=\"" + std::to_string(columns) +
+                             "\" height=\"" + std::to_string(rows) + "\">\n  " + data + "\n </layer>\n"});
+    } else {
+        const std::string tag = source.substr(layer.tag_begin, layer.tag_end - layer.tag_begin);
+        if (layer.empty) {
+            const std::string open = sized(tag.substr(0, tag.size() - 2) + ">");
+            edits.push_back({layer.tag_begin, layer.end - layer.tag_begin, open + data + "</layer>"});
+        } else {
+            const std::string new_tag = sized(tag);
+            if (new_tag != tag) edits.push_back({layer.tag_begin, tag.size(), new_tag});
+            const map_text::Element cells = map_text::child(source, layer.tag_end, layer.content_end, "data");
+            if (!cells.found) {
+                edits.push_back({layer.content_end, 0, data});
+            } else {
+                const std::string data_tag = source.substr(cells.tag_begin, cells.tag_end - cells.tag_begin);
+                const bool csv_already = map_text::attribute(data_tag, "encoding") == "csv" &&
+                                         map_text::attribute(data_tag, "compression").empty() && !cells.empty;
+                if (csv_already)
+                    edits.push_back({cells.tag_end, cells.content_end - cells.tag_end, csv});
+                else
+                    edits.push_back({cells.tag_begin, cells.end - cells.tag_begin, data});
+            }
+        }
+    }
+    // The cells are this tileset's tiles, at its size; so is the sheet's
+    // tileset, when the map draws from the sheet written beside it.
+    const std::string w = std::to_string(tile_width);
+    const std::string h = std::to_string(tile_height);
+    if (map_text::attribute(root_tag, "tilewidth") != w) root_tag = map_text::with_attribute(root_tag, "tilewidth", w);
+    if (map_text::attribute(root_tag, "tileheight") != h) root_tag = map_text::with_attribute(root_tag, "tileheight", h);
+    const map_text::Element tileset = map_text::child(source, root.tag_end, root.content_end, "tileset");
+    if (tileset.found && !tileset.empty) {
+        const map_text::Element image = map_text::child(source, tileset.tag_end, tileset.content_end, "image");
+        const std::string image_tag =
+            image.found ? source.substr(image.tag_begin, image.tag_end - image.tag_begin) : std::string();
+        const std::string tileset_tag = source.substr(tileset.tag_begin, tileset.tag_end - tileset.tag_begin);
+        if (image.found && map_text::attribute(image_tag, "source") == sheet &&
+            map_text::attribute(tileset_tag, "tilewidth") != w) {
+            std::string t = map_text::with_attribute(tileset_tag, "tilewidth", w);
+            t = map_text::with_attribute(t, "tileheight", h);
+            std::string i = map_text::with_attribute(image_tag, "width", std::to_string(Map_File::sheet_columns * tile_width));
+            i = map_text::with_attribute(i, "height", std::to_string(Map_File::sheet_rows * tile_height));
+            edits.push_back({tileset.tag_begin, tileset_tag.size(), t});
+            edits.push_back({image.tag_begin, image_tag.size(), i});
+        }
+    }
+    // A loader of one game engine refuses maps without it.
+    if (map_text::attribute(root_tag, "tiledversion").empty())
+        root_tag = map_text::with_attribute(root_tag, "tiledversion", Map_File::tiled_version);
+    const int map_columns = std::atoi(map_text::attribute(root_tag, "width").c_str());
+    const int map_rows = std::atoi(map_text::attribute(root_tag, "height").c_str());
+    if (columns > map_columns) root_tag = map_text::with_attribute(root_tag, "width", std::to_string(columns));
+    if (rows > map_rows) root_tag = map_text::with_attribute(root_tag, "height", std::to_string(rows));
+    // Its cells are all in the one layer of a fixed size now.
+    if (!map_text::attribute(root_tag, "infinite").empty() && map_text::attribute(root_tag, "infinite") != "0")
+        root_tag = map_text::with_attribute(root_tag, "infinite", "0");
+    edits.push_back({root.tag_begin, root.tag_end - root.tag_begin, root_tag});
+
+    std::string out = source;
+    std::sort(edits.begin(), edits.end(), [](const Edit& a, const Edit& b) { return a.at > b.at; });
+    for (const Edit& e : edits) out.replace(e.at, e.length, e.text);
+    // A file odd enough to defeat the edit (it is damaged, and the user agreed
+    // to replace it) is written anew rather than written broken.
+    XMLDocument check;
+    if (check.Parse(out.c_str(), out.size()) != XML_SUCCESS || !check.RootElement()) return {};
+    const XMLElement* written_layer = tile_layer(check.RootElement());
+    const XMLElement* written_data = written_layer ? written_layer->FirstChildElement("data") : nullptr;
+    const char* written_cells = written_data ? written_data->GetText() : nullptr;
+    if (!written_cells || csv != written_cells) return {};
+    return out;
+}
+
+std::string new_file(const Tile_Map& map, uint32_t tile_width, uint32_t tile_height, const std::string& path) {
+    XMLDocument doc;
+    XMLElement* root = new_map(doc, file_name(Map_File::sheet_path(path)), tile_width, tile_height);
+    XMLElement* layer = add_tile_layer(root);
+    layer->SetAttribute("width", map.columns());
+    layer->SetAttribute("height", map.rows());
+    root->SetAttribute("width", map.columns());
+    root->SetAttribute("height", map.rows());
+    XMLElement* data = layer->InsertNewChildElement("data");
+    data->SetAttribute("encoding", "csv");
+    data->SetText(csv_of(map, map.columns(), map.rows(), 1).c_str());
+    XMLPrinter printer;
+    doc.Print(&printer);
+    return std::string(printer.CStr(), size_t(printer.CStrSize() > 0 ? printer.CStrSize() - 1 : 0));
+}
+}  // namespace
+
+bool Map_File::write(const Tile_Map& map, uint32_t tile_width, uint32_t tile_height, const std::string& path,
+                     const std::string& source) {
+    std::string text =
+        source.empty() ? std::string() : edited(source, map, tile_width, tile_height, file_name(sheet_path(path)));
+    if (text.empty()) text = new_file(map, tile_width, tile_height, path);
+    // A derived name: never written through a link there.
+    return safe_file::written(
+        path, [&](std::FILE* file) { return std::fwrite(text.data(), 1, text.size(), file) == text.size(); },
+        safe_file::Links::refuse);
+}
+
+bool Map_File::uses_sheet(const std::string& source, const std::string& sheet_name) {
+    XMLDocument doc;
+    if (doc.Parse(source.c_str(), source.size()) != XML_SUCCESS || !doc.RootElement()) return false;
+    for (const XMLElement* t = doc.RootElement()->FirstChildElement("tileset"); t; t = t->NextSiblingElement("tileset"))
+        for (const XMLElement* i = t->FirstChildElement("image"); i; i = i->NextSiblingElement("image"))
+            if (const char* source_name = i->Attribute("source"); source_name && sheet_name == source_name) return true;
+    return false;
+}
+
+std::string Map_File::text_of(const std::string& path) {
+    if (!safe_file::is_plain_file(path)) return {};
+    std::FILE* file = std::fopen(path.c_str(), "rb");
+    if (!file) return {};
+    std::string text;
+    char buffer[65536];
+    size_t n = 0;
+    while ((n = std::fread(buffer, 1, sizeof buffer, file)) > 0) text.append(buffer, n);
+    std::fclose(file);
+    return text;
+}
+
+Map_File::Reading Map_File::read(const std::string& path, Map_Editor& into, uint32_t tile_width,
+                                 uint32_t tile_height, int tile_count) {
+    using namespace tinyxml2;
+    Reading r;
+    std::error_code error;
+    if (!std::filesystem::is_regular_file(path, error)) return r;
+    r.found = true;
+    XMLDocument doc;
+    if (doc.LoadFile(path.c_str()) != XML_SUCCESS) {
+        add_problem(r, "It is not a readable XML file, so no cell was read.");
+        return r;
+    }
+    const XMLElement* root = doc.RootElement();
+    if (!root || std::string(root->Name()) != "map") {
+        add_problem(r, "It holds no map, so no cell was read.");
+        return r;
+    }
+    const char* orientation = root->Attribute("orientation");
+    if (orientation && std::string(orientation) != "orthogonal")
+        add_problem(r, std::string("Its orientation is ") + orientation + "; its cells were read as a plain grid.");
+    const int file_tile_w = attribute(root, "tilewidth", 0);
+    const int file_tile_h = attribute(root, "tileheight", 0);
+    if (file_tile_w != int(tile_width) || file_tile_h != int(tile_height))
+        add_problem(r, "It is made for tiles of " + std::to_string(file_tile_w) + " x " + std::to_string(file_tile_h) +
+                           " pixels, this tileset's are " + std::to_string(tile_width) + " x " +
+                           std::to_string(tile_height) + ".");
+
+    // What is not the first tile layer (objects, image and group layers,
+    // further tile layers and tilesets, properties) is kept as the file has
+    // it when the map is written back, so it is no loss to leave it aside.
+    const XMLElement* tileset = root->FirstChildElement("tileset");
+    const int first_gid = attribute(tileset, "firstgid", 1);
+    if (attribute(root, "infinite", 0) != 0) {
+        add_problem(r, "It is an infinite map, kept in chunks; this editor reads maps of a fixed size only, so no cell was read.");
+        return r;
+    }
+    const XMLElement* layer = root->FirstChildElement("layer");
+    // A map without a tile layer is a blank map here; writing adds one.
+    if (!layer) {
+        r.whole = r.problems.empty();
+        return r;
+    }
+    const int columns = attribute(layer, "width", attribute(root, "width", 0));
+    const int rows = attribute(layer, "height", attribute(root, "height", 0));
+    const XMLElement* data = layer->FirstChildElement("data");
+    const char* encoding = data ? data->Attribute("encoding") : nullptr;
+    if (!data || !encoding || std::string(encoding) != "csv" || data->FirstChildElement()) {
+        add_problem(r, "Its tile layer is not stored as CSV, so no cell was read.");
+        return r;
+    }
+    if (columns <= 0 || rows <= 0) {
+        add_problem(r, "Its tile layer has no valid size, so no cell was read.");
+        return r;
+    }
+    const Tile_Map& map = into.map();
+    if (columns > map.columns() || rows > map.rows())
+        add_problem(r, "Its " + std::to_string(columns) + " x " + std::to_string(rows) +
+                           " cells do not fit this map of " + std::to_string(map.columns()) + " x " +
+                           std::to_string(map.rows()) + "; the rest was left out.");
+
+    Csv_Cells cells(data->GetText());
+    long long read_count = 0;
+    const long long expected = (long long)columns * rows;
+    int bad = 0;
+    int unknown = 0;
+    int flipped = 0;
+    uint32_t value = 0;
+    bool not_number = false;
+    while (cells.next(value, not_number)) {
+        const long long index = read_count++;
+        if (index >= expected) continue;
+        if (not_number) {
+            ++bad;
+            continue;
+        }
+        if (value & flag_bits) ++flipped;
+        const long long gid = value & ~flag_bits;
+        if (gid == 0) continue;
+        const long long tile = gid - first_gid;
+        const int x = int(index % columns);
+        const int y = int(index / columns);
+        if (tile < 0 || tile >= tile_count) {
+            ++unknown;
+            continue;
+        }
+        if (map.is_outside(x, y)) continue;
+        into.place(x, y, int(tile));
+        ++r.cells;
+    }
+    if (bad > 0) add_problem(r, std::to_string(bad) + " cells held no valid number and were left empty.");
+    if (unknown > 0)
+        add_problem(r, std::to_string(unknown) + " cells named tiles this tileset does not have and were left empty.");
+    if (flipped > 0) add_problem(r, std::to_string(flipped) + " cells were flipped or turned; they show unturned.");
+    if (read_count < expected)
+        add_problem(r, "Its tile layer ends after " + std::to_string(read_count) + " of " + std::to_string(expected) +
+                           " cells.");
+    else if (read_count > expected)
+        add_problem(r, "Its tile layer holds more cells than its size; the extra ones were left out.");
+    r.whole = r.problems.empty();
+    return r;
+}

@@ -1,0 +1,115 @@
+#include "platform/image.h"
+
+#include <cstdio>
+#include <cstdlib>
+
+#include "model/core/fatal.h"
+#include "model/core/safe_file.h"
+
+namespace {
+
+uint32_t little_endian(const unsigned char* p, int bytes) {
+    uint32_t value = 0;
+    for (int i = bytes - 1; i >= 0; --i) value = value << 8 | p[i];
+    return value;
+}
+
+// SDL makes the whole surface a BMP header asks for before it reads a pixel, so
+// a damaged header can ask for gigabytes. The sides are read here first, the
+// way SDL reads them; anything else wrong with the file is left to SDL.
+bool claims_too_large(const char* file_name) {
+    unsigned char header[26];
+    std::FILE* file = std::fopen(file_name, "rb");
+    if (!file) return false;
+    const bool read = std::fread(header, sizeof header, 1, file) == 1;
+    std::fclose(file);
+    if (!read || header[0] != 'B' || header[1] != 'M') return false;
+    const bool core_header = little_endian(header + 14, 4) == 12;
+    const long long width = core_header ? little_endian(header + 18, 2) : int32_t(little_endian(header + 18, 4));
+    const long long height = core_header ? little_endian(header + 20, 2) : int32_t(little_endian(header + 22, 4));
+    return std::llabs(width) > Image::max_side || std::llabs(height) > Image::max_side;
+}
+
+}  // namespace
+
+Image::Image(const char* file_name, uint32_t width, uint32_t height, bool key_on, uint8_t key_r,
+             uint8_t key_g, uint8_t key_b)
+    : w(width), h(height), key_on(key_on), key{key_r, key_g, key_b} {
+    format = SDL_GetPixelFormatDetails(SDL_PIXELFORMAT_ARGB8888);
+    if (!format) fatal_error("Could not get SDL pixel format details.");
+    SDL_Surface* loaded = nullptr;
+    if (file_name) {
+        if (!claims_too_large(file_name)) loaded = SDL_LoadBMP(file_name);
+        if (!loaded) fatal_error("Could not load SDL surface from %s.", file_name);
+        w = static_cast<uint32_t>(loaded->w);
+        h = static_cast<uint32_t>(loaded->h);
+    }
+    pixels = SDL_CreateSurface(int(w), int(h), SDL_PIXELFORMAT_ARGB8888);
+    if (!pixels) fatal_error("Could not set SDL surface.");
+    if (!loaded) return;
+
+    SDL_SetSurfaceBlendMode(loaded, SDL_BLENDMODE_NONE);
+    SDL_BlitSurface(loaded, nullptr, pixels, nullptr);
+    SDL_DestroySurface(loaded);
+    // Any alpha in the file is discarded: the key alone decides transparency.
+    for (uint32_t y = 0; y < h; ++y) {
+        Uint32* row = reinterpret_cast<Uint32*>(static_cast<Uint8*>(pixels->pixels) + y * pixels->pitch);
+        for (uint32_t x = 0; x < w; ++x) {
+            const Uint32 p = row[x] & 0x00FFFFFFu;
+            const bool keyed = key_on && (p >> 16 & 0xFF) == key[0] && (p >> 8 & 0xFF) == key[1] &&
+                               (p & 0xFF) == key[2];
+            row[x] = keyed ? p : (p | 0xFF000000u);
+        }
+    }
+}
+
+Image::~Image() { SDL_DestroySurface(pixels); }
+
+Image::Rgba Image::get_pixel(int x, int y) const {
+    if (x < 0 || y < 0 || x >= int(w) || y >= int(h)) return {255, 0, 255, 255};
+    Rgba c{};
+    SDL_ReadSurfacePixel(pixels, x, y, &c.r, &c.g, &c.b, &c.a);
+    return c;
+}
+
+void Image::set_pixel(int x, int y, Rgba c) {
+    if (x < 0 || y < 0 || x >= int(w) || y >= int(h)) return;
+    const Uint32 value = SDL_MapSurfaceRGBA(pixels, c.r, c.g, c.b, c.a);
+    Uint8* row = static_cast<Uint8*>(pixels->pixels) + y * pixels->pitch;
+    reinterpret_cast<Uint32*>(row)[x] = value;
+}
+
+void Image::set_colour_key(uint8_t r, uint8_t g, uint8_t b) {
+    key_on = true;
+    key[0] = r;
+    key[1] = g;
+    key[2] = b;
+    SDL_SetSurfaceColorKey(pixels, true, SDL_MapSurfaceRGB(pixels, r, g, b));
+}
+
+void Image::fill(const Rectangle& rect, Rgba c) {
+    const SDL_Rect r{rect.x, rect.y, rect.width, rect.height};
+    SDL_FillSurfaceRect(pixels, &r, SDL_MapSurfaceRGBA(pixels, c.r, c.g, c.b, c.a));
+}
+
+void Image::blit(const Rectangle& source, Image& target, int x, int y) const {
+    const SDL_Rect from{source.x, source.y, source.width, source.height};
+    SDL_Rect to{x, y, source.width, source.height};
+    SDL_BlitSurface(pixels, &from, target.pixels, &to);
+}
+
+bool Image::save_bmp(const std::string& path, bool user_chose_path) const {
+    SDL_IOStream* memory = SDL_IOFromDynamicMem();
+    if (!memory) return false;
+    bool ok = SDL_SaveBMP_IO(pixels, memory, false);
+    const Sint64 size = ok ? SDL_TellIO(memory) : -1;
+    const void* bytes =
+        SDL_GetPointerProperty(SDL_GetIOProperties(memory), SDL_PROP_IOSTREAM_DYNAMIC_MEMORY_POINTER, nullptr);
+    ok = ok && size > 0 && bytes &&
+         safe_file::written(
+             path,
+             [&](std::FILE* file) { return std::fwrite(bytes, 1, size_t(size), file) == size_t(size); },
+             user_chose_path ? safe_file::Links::follow : safe_file::Links::refuse);
+    SDL_CloseIO(memory);
+    return ok;
+}

@@ -1,0 +1,370 @@
+// The selection on the real canvas: selectors, Work selection, the copy
+// buffer across tilesets, Scroll and Freehand rotate, driven through the
+// editor's own loops with pushed events.
+#include "tests/app/drawing_fixture.h"
+
+#include "app/tool_options.h"
+#include "app/undo_control.h"
+#include "model/tileset/tileset.h"
+#include "model/tile/transforms.h"
+#include "features/selection/buffer_pane.h"
+#include "app/selection/selection_tools.h"
+#include "model/selection/mask_ops.h"
+#include "ui/info_panes.h"
+#include "ui/options.h"
+#include "ui/setting_panes.h"
+#include "ui/textlist_dialog_item.h"
+#include "ui/ui_globals.h"
+
+namespace {
+const Color red(220, 20, 30);
+const Color blue(10, 40, 230);
+
+class Selecting : public Drawing {
+protected:
+    static Canvas_View& view() { return g_editor->canvas(); }
+    static Rectangle selected_box() { return mask_ops::bounds(*view().selection()); }
+    static bool selected(int x, int y) { return mask_ops::is_selected(*view().selection(), x, y); }
+    static void undo() { key(SDLK_Z, SDL_KMOD_CTRL); }
+    static void redo() { key(SDLK_R, SDL_KMOD_CTRL); }
+    static void with_shift(const std::vector<SDL_Point>& cells) {
+        SDL_SetModState(SDL_KMOD_SHIFT);
+        stroke(cells);
+        SDL_SetModState(SDL_KMOD_NONE);
+    }
+    static void set_selection_mode(int mode) {
+        auto& row = static_cast<Option_Pane&>(g_tool_options->row(tool_pages::row_selection_mode));
+        static_cast<Textlist_Dialog_Item*>(row.container().find(setting_pane_first_id + 1))->choice.value = mode;
+    }
+    // A command that is refused must say why in a note and record nothing.
+    static void expect_refused(int command) {
+        const int records = g_editor->current()->history().count();
+        Event_Script script;
+        script.then([] { push_key(SDLK_RETURN); });
+        EXPECT_EQ(g_editor->execute(command), -1) << commands::name(command);
+        EXPECT_EQ(script.left(), 0u) << commands::name(command) << " showed no note";
+        EXPECT_EQ(g_editor->current()->history().count(), records) << commands::name(command);
+    }
+    static void fill_tile(Color c) {
+        tile().fill(c);
+        tile().update_texture();
+    }
+    // Pixels set by hand become a step of their own, as a stroke would.
+    static void keep_edit() {
+        tile().update_texture();
+        g_editor->undo().record(command_pen);
+    }
+};
+}  // namespace
+
+TEST_F(Selecting, CopyIntoAnotherTilesetMoveAcrossTheEdgeLeaveTheToolAndUndoToTheStart) {
+    Tileset* first = g_editor->current();
+    const Color blank = tile().get_pixel(0, 0);
+    use_tool(command_pen);
+    set_colors(red, blue);
+    stroke({{2, 2}, {6, 2}});
+    stroke({{2, 3}}, SDL_BUTTON_RIGHT);
+    use_tool(command_rectangle_selector);
+    stroke({{1, 1}, {4, 2}, {7, 3}});
+    ASSERT_TRUE(view().has_selection());
+    EXPECT_EQ(selected_box(), (Rectangle{1, 1, 7, 3}));
+    const auto& size = static_cast<const Location_Info&>(g_tool_options->row(tool_pages::row_size));
+    EXPECT_EQ(size.first(), 7);
+    EXPECT_EQ(size.second(), 3);
+    key(SDLK_C, SDL_KMOD_CTRL);
+    ASSERT_EQ(g_editor->selection().buffer().count(), 1);
+    EXPECT_EQ(g_editor->selection().buffer().current()->width(), 7);
+
+    // A tileset of another tile size: the copy is centred on its tile.
+    ASSERT_TRUE(g_editor->tilesets().new_tileset(16, 16));
+    ASSERT_NE(g_editor->current(), first);
+    EXPECT_FALSE(view().has_selection());
+    key(SDLK_V, SDL_KMOD_CTRL);
+    EXPECT_EQ(g_editor->current_tool(), command_work_selection);
+    ASSERT_NE(view().floating_image(), nullptr);
+    EXPECT_EQ(view().floating_position().x, 4);
+    EXPECT_EQ(view().floating_position().y, 6);
+    EXPECT_EQ(on_screen(5, 7), red);
+
+    // Dragged by its red row over the right edge: the row comes back on the left.
+    stroke({{5, 7}, {10, 7}, {14, 7}});
+    EXPECT_EQ(view().floating_position().x, 13);
+    EXPECT_EQ(on_screen(15, 7), red);
+    EXPECT_EQ(on_screen(2, 7), red);
+    EXPECT_EQ(on_screen(14, 8), blue);
+    EXPECT_EQ(tile().get_pixel(15, 7), blank);
+
+    use_tool(command_pen);
+    EXPECT_EQ(view().floating_image(), nullptr);
+    for (int x : {14, 15, 0, 1, 2}) EXPECT_EQ(tile().get_pixel(x, 7), red) << x;
+    EXPECT_EQ(tile().get_pixel(3, 7), blank);
+    EXPECT_EQ(tile().get_pixel(14, 8), blue);
+
+    // Undo brings the floating image back where it was pasted, then nothing.
+    undo();
+    EXPECT_EQ(g_editor->current_tool(), command_work_selection);
+    ASSERT_NE(view().floating_image(), nullptr);
+    EXPECT_EQ(view().floating_position().x, 4);
+    EXPECT_EQ(tile().get_pixel(15, 7), blank);
+    undo();
+    EXPECT_EQ(view().floating_image(), nullptr);
+    for (int x = 0; x < 16; ++x) EXPECT_EQ(tile().get_pixel(x, 7), blank) << x;
+    EXPECT_FALSE(g_editor->undo().undo());
+
+    // The first tileset: its own history gives its selection back.
+    g_editor->tilesets().make_current(*first);
+    undo();
+    EXPECT_FALSE(view().has_selection());
+    redo();
+    ASSERT_TRUE(view().has_selection());
+    EXPECT_EQ(selected_box(), (Rectangle{1, 1, 7, 3}));
+    for (int i = 0; i < 3; ++i) undo();
+    EXPECT_FALSE(view().has_selection());
+    EXPECT_EQ(tile().get_pixel(2, 2), blank);
+    EXPECT_FALSE(g_editor->undo().undo());
+    // The buffer belongs to the editor: it is still there.
+    EXPECT_EQ(g_editor->selection().buffer().count(), 1);
+}
+
+TEST_F(Selecting, ShiftAddsTheRightButtonRemovesAndAPlainDragReplaces) {
+    use_tool(command_rectangle_selector);
+    stroke({{1, 1}, {3, 3}});
+    with_shift({{6, 6}, {7, 7}});
+    EXPECT_TRUE(selected(1, 1));
+    EXPECT_TRUE(selected(7, 7));
+    stroke({{2, 2}, {6, 6}}, SDL_BUTTON_RIGHT);
+    EXPECT_TRUE(selected(1, 1));
+    EXPECT_FALSE(selected(2, 2));
+    EXPECT_FALSE(selected(6, 6));
+    EXPECT_TRUE(selected(7, 7));
+    stroke({{1, 1}, {5, 5}});
+    EXPECT_EQ(selected_box(), (Rectangle{1, 1, 5, 5}));
+    // The veil covers what is not selected.
+    const Color inside = on_screen(2, 2);
+    EXPECT_NE(on_screen(9, 9), inside);
+    stroke({{10, 10}});
+    EXPECT_FALSE(view().has_selection());
+    EXPECT_EQ(on_screen(9, 9), inside);
+
+    use_tool(command_circle_selector);
+    stroke({{8, 8}, {11, 10}});
+    EXPECT_TRUE(selected(8, 10));
+    EXPECT_TRUE(selected(11, 8));
+    EXPECT_FALSE(selected(8, 11));
+    EXPECT_FALSE(selected(12, 8));
+    const auto& radius = static_cast<const Location_Info&>(g_tool_options->row(tool_pages::row_radius));
+    EXPECT_EQ(radius.first(), 3);
+    EXPECT_EQ(radius.second(), 2);
+
+    // The wand keeps areas that touch only at a corner apart.
+    fill_tile(Color(0, 0, 0, 0));
+    for (int y = 0; y < 2; ++y)
+        for (int x = 0; x < 2; ++x) {
+            tile().set_pixel(x, y, red);
+            tile().set_pixel(x + 2, y + 2, red);
+        }
+    use_tool(command_wand_selector);
+    stroke({{0, 0}});
+    EXPECT_EQ(selected_box(), (Rectangle{0, 0, 2, 2}));
+    with_shift({{3, 3}});
+    EXPECT_EQ(selected_box(), (Rectangle{0, 0, 4, 4}));
+    EXPECT_FALSE(selected(2, 0));
+    stroke({{0, 0}}, SDL_BUTTON_RIGHT);
+    EXPECT_EQ(selected_box(), (Rectangle{2, 2, 2, 2}));
+
+    // The brush selector paints the mask along the path and takes away with the right button.
+    use_tool(command_brush_selector);
+    g_tool_options->select_brush_size(1);
+    stroke({{0, 6}, {5, 6}});
+    for (int x = 0; x <= 5; ++x) EXPECT_TRUE(selected(x, 6)) << x;
+    stroke({{2, 6}, {3, 6}}, SDL_BUTTON_RIGHT);
+    EXPECT_TRUE(selected(1, 6));
+    EXPECT_FALSE(selected(2, 6));
+    EXPECT_FALSE(selected(3, 6));
+    EXPECT_TRUE(selected(4, 6));
+}
+
+TEST_F(Selecting, EveryCommandIsRecordedWithItsMaskAndRefusalsSayWhy) {
+    for (int c : {command_copy, command_cut, command_paste, command_clone, command_fill, command_clear})
+        expect_refused(c);
+    EXPECT_EQ(g_editor->execute(command_deselect), -1);  // nothing to drop: silent
+
+    fill_tile(blue);
+    use_tool(command_rectangle_selector);
+    stroke({{2, 2}, {5, 4}});
+    set_colors(red, blue);
+    g_editor->run_command(command_fill);
+    EXPECT_EQ(tile().get_pixel(2, 2), red);
+    EXPECT_EQ(tile().get_pixel(6, 2), blue);
+    g_editor->run_command(command_invert_selection);
+    EXPECT_TRUE(selected(0, 0));
+    EXPECT_FALSE(selected(3, 3));
+    g_editor->run_command(command_clear);
+    EXPECT_EQ(tile().get_pixel(0, 0).alpha, 0);
+    EXPECT_EQ(tile().get_pixel(3, 3), red);
+    key(SDLK_SPACE);
+    EXPECT_FALSE(view().has_selection());
+
+    undo();  // Deselect
+    EXPECT_TRUE(selected(0, 0));
+    EXPECT_FALSE(selected(3, 3));
+    undo();  // Clear
+    EXPECT_EQ(tile().get_pixel(0, 0), blue);
+    undo();  // Invert
+    EXPECT_EQ(selected_box(), (Rectangle{2, 2, 4, 3}));
+    undo();  // Fill
+    EXPECT_EQ(tile().get_pixel(2, 2), blue);
+    EXPECT_EQ(selected_box(), (Rectangle{2, 2, 4, 3}));
+
+    // Cut leaves a hole and keeps the pixels; Clone floats a copy in place.
+    key(SDLK_X, SDL_KMOD_CTRL);
+    EXPECT_EQ(tile().get_pixel(3, 3).alpha, 0);
+    EXPECT_EQ(g_editor->selection().buffer().count(), 1);
+    undo();
+    stroke({{2, 2}, {3, 3}});
+    g_editor->run_command(command_clone);
+    EXPECT_EQ(g_editor->current_tool(), command_work_selection);
+    ASSERT_NE(view().floating_image(), nullptr);
+    EXPECT_EQ(view().floating_position().x, 2);
+    // The selection's pixels as an image, as a brush would take them.
+    EXPECT_EQ(g_editor->selection().selection_image()->width(), 2);
+    g_editor->run_command(command_clear);  // throws the floating image away
+    EXPECT_EQ(view().floating_image(), nullptr);
+    EXPECT_EQ(tile().get_pixel(2, 2), blue);
+}
+
+TEST_F(Selecting, WorkSelectionLiftsCopiesClonesAndKeepsByItsMode) {
+    const Color blank(0, 0, 0, 0);
+    fill_tile(blank);
+    for (int x = 2; x <= 4; ++x) tile().set_pixel(x, 2, red);
+    use_tool(command_rectangle_selector);
+    stroke({{2, 2}, {4, 2}});
+    use_tool(command_work_selection);
+    EXPECT_TRUE(view().has_selection());  // choosing the tool keeps what it moves
+    stroke({{3, 2}, {3, 6}});
+    EXPECT_EQ(tile().get_pixel(3, 2), blank);  // lifted
+    EXPECT_EQ(on_screen(3, 6), red);
+    // A click beside the image leaves a copy where it stood and brings it to the pointer.
+    stroke({{10, 10}});
+    EXPECT_EQ(tile().get_pixel(3, 6), red);
+    EXPECT_EQ(on_screen(10, 10), red);
+    undo();
+    EXPECT_EQ(tile().get_pixel(3, 6), blank);
+    EXPECT_EQ(view().floating_position().y, 6);
+    undo();
+    EXPECT_EQ(tile().get_pixel(3, 2), red);
+    EXPECT_EQ(view().floating_image(), nullptr);
+    EXPECT_TRUE(selected(3, 2));
+
+    // "Fixed": the pixels stay and a copy moves. "Persistent": it keeps floating under other tools.
+    set_selection_mode(Selection_Tools::fixed);
+    stroke({{3, 2}, {3, 8}});
+    EXPECT_EQ(tile().get_pixel(3, 2), red);
+    set_selection_mode(Selection_Tools::persistent);
+    use_tool(command_pen);
+    EXPECT_NE(view().floating_image(), nullptr);
+    EXPECT_EQ(tile().get_pixel(3, 8), blank);
+    set_selection_mode(Selection_Tools::standard);
+    use_tool(command_work_selection);
+    use_tool(command_pen);
+    EXPECT_EQ(view().floating_image(), nullptr);
+    EXPECT_EQ(tile().get_pixel(3, 8), red);
+}
+
+TEST_F(Selecting, ScrollDragWrapsAndFreehandRotateStartsFromThePressEveryMove) {
+    fill_tile(Color(0, 0, 0, 0));
+    tile().set_pixel(0, 0, red);
+    tile().set_pixel(20, 11, blue);
+    keep_edit();
+    use_tool(command_scroll);
+    stroke({{5, 5}, {4, 5}, {3, 4}});
+    EXPECT_EQ(tile().get_pixel(22, 23), red);
+    const auto& offset = static_cast<const Location_Info&>(g_tool_options->row(tool_pages::row_offset));
+    EXPECT_EQ(offset.first(), -2);
+    EXPECT_EQ(offset.second(), -1);
+    undo();
+    EXPECT_EQ(tile().get_pixel(0, 0), red);
+
+    // A quarter turn about the centre, after a detour, is exactly "Rotate".
+    Tile expected(24, 24);
+    tile().copy_into(expected);
+    rotate(expected);
+    use_tool(command_freehand_rotate);
+    stroke({{21, 12}, {2, 2}, {20, 20}, {11, 21}});
+    for (int i = 0; i < expected.pixel_count(); ++i) ASSERT_EQ(tile().pixels()[i], expected.pixels()[i]) << i;
+    const auto& degrees = static_cast<const Number_Info&>(g_tool_options->row(tool_pages::row_degrees));
+    EXPECT_EQ(degrees.value(), 90);
+    undo();
+    EXPECT_EQ(tile().get_pixel(20, 11), blue);
+}
+
+TEST_F(Selecting, ThePreviousCopiesAreThumbnailsAClickMakesOneCurrent) {
+    use_tool(command_rectangle_selector);
+    for (int w = 1; w <= 3; ++w) {
+        stroke({{0, 0}, {w - 1, 1}});
+        key(SDLK_C, SDL_KMOD_CTRL);
+    }
+    use_tool(command_work_selection);
+    g_editor->repaint(true);
+    Buffer_Pane& pane = g_tool_options->buffer_pane();
+    const Rectangle oldest = pane.thumbnail(2);
+    const Color body = read_pixel(pane.thumbnail(3).x + 2, pane.thumbnail(3).y + 2);
+    EXPECT_NE(read_pixel(oldest.x + 2, oldest.y + 2), body);
+    push_click(oldest.x + 5, oldest.y + 5);
+    pump();
+    EXPECT_EQ(g_editor->selection().buffer().current()->width(), 1);
+    EXPECT_EQ(g_editor->selection().buffer().at(1)->width(), 3);
+}
+
+TEST_F(Selecting, AnotherTileClearsTheSelectionAndAntiAliasSmoothsOnlySteps) {
+    ASSERT_TRUE(g_options && g_options->is_on(Options::clear_selection));
+    g_editor->run_command(command_add_new_tile);
+    use_tool(command_rectangle_selector);
+    stroke({{1, 1}, {4, 4}});
+    g_editor->run_command(command_previous_tile);
+    EXPECT_FALSE(view().has_selection());
+
+    const Color white(255, 255, 255);
+    fill_tile(white);
+    for (int y = 0; y < 24; ++y)
+        for (int x = 0; x <= y / 4; ++x) tile().set_pixel(x, y, blue);  // a staircase
+    keep_edit();
+    Tile before(24, 24);
+    tile().copy_into(before);
+    g_editor->run_command(command_anti_alias);
+    int softened = 0;
+    for (int i = 0; i < before.pixel_count(); ++i)
+        if (!(tile().pixels()[i] == before.pixels()[i])) {
+            ++softened;
+            EXPECT_NE(tile().pixels()[i], blue);
+            EXPECT_NE(tile().pixels()[i], white);
+        }
+    EXPECT_GT(softened, 0);
+    EXPECT_EQ(tile().get_pixel(0, 0), blue);
+    EXPECT_EQ(tile().get_pixel(20, 2), white);
+    undo();
+    for (int i = 0; i < before.pixel_count(); ++i) ASSERT_EQ(tile().pixels()[i], before.pixels()[i]) << i;
+}
+
+// The floating image is a layer over the cells: it shows wrapped where it
+// crosses the edge, blended by its alpha, and leaves no trace where it was.
+TEST_F(Selecting, AFloatingImageShowsWrappedAndBlendedAndMovesWithoutATrace) {
+    fill_tile(Color(0, 0, 0));
+    const int w = tile().width();
+    const Color untouched = on_screen(1, 3);
+    Tile image(2, 1);
+    image.set_pixel(0, 0, red);
+    image.set_pixel(1, 0, Color(10, 40, 230, 128));
+    view().paste(image, w - 1, 3);
+    EXPECT_EQ(on_screen(w - 1, 3), red);
+    const Color half = on_screen(0, 3);  // the wrapped, half-transparent pixel
+    EXPECT_GT(half.blue, 100);
+    EXPECT_LT(half.blue, 230);
+    EXPECT_EQ(on_screen(1, 3), untouched);
+
+    view().replace_float(&image, 4, 5);
+    EXPECT_EQ(on_screen(w - 1, 3), untouched);
+    EXPECT_EQ(on_screen(0, 3), untouched);
+    EXPECT_EQ(on_screen(4, 5), red);
+    EXPECT_EQ(tile().get_pixel(4, 5), Color(0, 0, 0)) << "floating, not stamped";
+}

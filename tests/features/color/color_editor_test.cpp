@@ -1,0 +1,184 @@
+#include <gtest/gtest.h>
+
+#include <cstring>
+
+#include "app/canvas_view.h"
+#include "model/core/commands.h"
+#include "features/color/edit_hsv_dialog.h"
+#include "app/editor.h"
+#include "app/tool_options.h"
+#include "app/undo_control.h"
+#include "model/color/color_database.h"
+#include "features/color/color_editor.h"
+#include "model/color/palette.h"
+#include "model/tileset/tileset.h"
+#include "support/headless.h"
+#include "tests/ui/event_script.h"
+#include "ui/dialog.h"
+#include "ui/dialog_item.h"
+
+namespace {
+class ColorEditorTest : public Headless {
+protected:
+    void SetUp() override {
+        Headless::SetUp();
+        ASSERT_TRUE(g_editor->begin());
+        drop_pending_events();
+    }
+    static Color_Editor& editor() { return g_editor->colors(); }
+    static SDL_Point centre(const Rectangle& r) { return SDL_Point{r.x + r.width / 2, r.y + r.height / 2}; }
+    static int swatch_of(const char* name) {
+        const auto& list = editor().entries();
+        for (size_t i = 0; i < list.size(); ++i)
+            if (std::strcmp(list[i].name, name) == 0) return int(i);
+        return -1;
+    }
+};
+}  // namespace
+
+TEST_F(ColorEditorTest, EntriesAreSortedBrightestFirst) {
+    const auto& list = editor().entries();
+    ASSERT_EQ(list.size(), 24u);
+    for (size_t i = 1; i < list.size(); ++i) EXPECT_GE(luminance(list[i - 1].color), luminance(list[i].color));
+    EXPECT_STREQ(list.back().name, "Black");
+}
+
+TEST_F(ColorEditorTest, HoveringPinkShowsItsReadoutAndEscapeKeepsTheToolColours) {
+    const int pink = swatch_of("Pink");
+    ASSERT_GE(pink, 0);
+    const SDL_Point p = centre(editor().swatch_area(pink));
+    Color shown;
+    Event_Script script;
+    script.then([&] { push_motion(p.x, p.y); })
+        .then([&] {
+            shown = editor().shown_color();
+            push_key(SDLK_ESCAPE);
+        });
+    g_editor->run_command(command_color_editor);
+    EXPECT_FALSE(script.ran_out());
+    EXPECT_EQ(shown, Color(255, 192, 203, 255));
+    EXPECT_NEAR(100 * luminance(shown), 63.3, 0.05);
+    EXPECT_STREQ(g_color_database->name_of(shown), "Pink");
+    EXPECT_EQ(g_tool_options->tool_color(0), Color(0, 0, 0));
+}
+
+TEST_F(ColorEditorTest, PickingASwatchAndPressingRightSetsTheRightColour) {
+    const SDL_Point s = centre(editor().swatch_area(swatch_of("Amber")));
+    const SDL_Point right = centre(editor().button_area(2));
+    Event_Script script;
+    script.then([&] { push_click(s.x, s.y); }).then([&] { push_click(right.x, right.y); });
+    g_editor->run_command(command_color_editor);
+    EXPECT_EQ(g_tool_options->tool_color(1), Color(255, 191, 0));
+    EXPECT_EQ(g_tool_options->color_tools().selected_index(), 1u);
+}
+
+TEST_F(ColorEditorTest, CtrlLeftClickStoresIntoThePaletteAndCtrlRightDoesNothing) {
+    const SDL_Point s = centre(editor().swatch_area(swatch_of("Crimson")));
+    const SDL_Point cell = centre(editor().palette_cell_area(5));
+    const Color before = g_palette->color(0, 5);
+    Color edited_after_right;
+    Event_Script script;
+    script.then([&] { push_click(s.x, s.y); })
+        .then([&] {
+            // Ctrl goes down and stays held.
+            SDL_Event e{};
+            e.type = SDL_EVENT_KEY_DOWN;
+            e.key.key = SDLK_LCTRL;
+            e.key.mod = SDL_KMOD_CTRL;
+            e.key.down = true;
+            SDL_PushEvent(&e);
+        })
+        .then([&] { push_click(cell.x, cell.y, SDL_BUTTON_RIGHT); })
+        .then([&] {
+            edited_after_right = editor().edited_color();
+            EXPECT_EQ(g_palette->color(0, 5), before);
+            push_click(cell.x, cell.y);
+        })
+        .then([&] { push_key(SDLK_ESCAPE); });
+    g_editor->run_command(command_color_editor);
+    EXPECT_EQ(edited_after_right, Color(220, 20, 60));
+    EXPECT_EQ(g_palette->color(0, 5), Color(220, 20, 60));
+    EXPECT_TRUE(g_palette->dirty());
+}
+
+TEST_F(ColorEditorTest, ATabShowsItsPageAndTheMainPaletteFollowsOnClosing) {
+    const SDL_Point tab = centre(editor().tab_area(1));
+    const SDL_Point ok = centre(editor().button_area(1));
+    Event_Script script;
+    script.then([&] { push_click(tab.x, tab.y); }).then([&] { push_click(ok.x, ok.y); });
+    g_editor->run_command(command_color_editor);
+    EXPECT_EQ(editor().page(), 1);
+    EXPECT_EQ(g_tool_options->color_tools().palette_area().page(), 1);
+}
+
+TEST_F(ColorEditorTest, EditHsvRaisesTheValueOfTheTile) {
+    Tile& tile = *g_editor->canvas().tile();
+    tile.fill(Color(100, 0, 0));
+    Edit_HSV_Dialog d(tile);
+    const Rectangle more = d.dialog().find(Edit_HSV_Dialog::mode_id)->area;
+    const Rectangle slider = d.dialog().find(Edit_HSV_Dialog::slider_id)->area;
+    // The mode list starts at "Hue"; two presses of its "More" give "Value",
+    // and a press at the far end of the slider the amount 100.
+    Event_Script script;
+    script.then([&] { push_click(more.x + 3, more.y + 3); })
+        .then([&] { push_click(more.x + 3, more.y + 3); })
+        .then([&] { push_click(slider.x + 257, slider.y + 5); })
+        .then([&] { push_key(SDLK_RETURN); });
+    EXPECT_TRUE(d.run());
+    EXPECT_EQ(d.dialog().value_of(Edit_HSV_Dialog::mode_id + 1), 7);
+    EXPECT_EQ(tile.get_pixel(3, 3), Color(200, 0, 0));
+}
+
+TEST_F(ColorEditorTest, AnAcceptedAdjustHsvIsOneStepThatUndoRestoresWithoutTheDialog) {
+    Tile& tile = *g_editor->canvas().tile();
+    tile.fill(Color(100, 0, 0));
+    tile.update_texture();
+    g_editor->undo().record(command_pen);
+    Tileset& t = *g_editor->current();
+    t.clear_modified();
+    const int records = t.history().count();
+    Event_Script script;
+    script.then([] { push_key(SDLK_RETURN); });  // unchanged: no step
+    g_editor->run_command(command_adjust_hsv);
+    ASSERT_EQ(script.left(), 0u);
+    EXPECT_EQ(t.history().count(), records);
+    EXPECT_FALSE(t.is_modified());
+
+    // The same dialog stands in the same place: "Value" at the far end of its slider.
+    Rectangle more{};
+    Rectangle slider{};
+    {
+        Edit_HSV_Dialog layout(tile);
+        more = layout.dialog().find(Edit_HSV_Dialog::mode_id)->area;
+        slider = layout.dialog().find(Edit_HSV_Dialog::slider_id)->area;
+    }
+    script.then([&] { push_click(more.x + 3, more.y + 3); })
+        .then([&] { push_click(more.x + 3, more.y + 3); })
+        .then([&] { push_click(slider.x + 257, slider.y + 5); })
+        .then([&] { push_key(SDLK_RETURN); });
+    g_editor->run_command(command_adjust_hsv);
+    ASSERT_EQ(script.left(), 0u);
+    ASSERT_EQ(tile.get_pixel(3, 3), Color(200, 0, 0));
+    EXPECT_EQ(t.history().count(), records + 1);
+    EXPECT_TRUE(t.is_modified());
+
+    // Undo puts the pixels back and opens nothing: a dialog would run out of steps.
+    push_key(SDLK_Z, SDL_KMOD_CTRL);
+    for (SDL_Event e; SDL_PollEvent(&e);) g_editor->handle(e);
+    EXPECT_FALSE(script.ran_out());
+    EXPECT_EQ(tile.get_pixel(3, 3), Color(100, 0, 0));
+    EXPECT_EQ(t.history().count(), records + 1);
+}
+
+TEST_F(ColorEditorTest, AdjustHsvFromItsButtonChangesTheTileAndCancelKeepsIt) {
+    Tile& tile = *g_editor->canvas().tile();
+    tile.fill(Color(10, 20, 30));
+    const Rectangle b = g_tool_options->adjust_button();
+    Event_Script script;
+    script.then([] { push_key(SDLK_ESCAPE); });
+    push_click(b.x + 5, b.y + 5);
+    SDL_Event e;
+    while (SDL_PollEvent(&e)) g_editor->handle(e);
+    EXPECT_FALSE(script.ran_out());
+    EXPECT_EQ(tile.get_pixel(0, 0), Color(10, 20, 30));
+}

@@ -1,0 +1,104 @@
+#include <gtest/gtest.h>
+
+#include "app/canvas_view.h"
+#include "model/core/commands.h"
+#include "app/editor.h"
+#include "app/tool_options.h"
+#include "features/color/color_editor.h"
+#include "features/color/color_tools.h"
+#include "model/color/palette.h"
+#include "support/editor_fixture.h"
+#include "tests/ui/event_script.h"
+
+namespace {
+class ColorPanes : public Editor_Fixture {
+protected:
+    static Color_Tools& tools() { return g_tool_options->color_tools(); }
+    static SDL_Point centre(const Rectangle& r) { return SDL_Point{r.x + r.width / 2, r.y + r.height / 2}; }
+};
+}  // namespace
+
+TEST_F(ColorPanes, RightClickOnAPaletteCellSetsAndSelectsTheRightColour) {
+    Palette_Area& p = tools().palette_area();
+    const Rectangle c = p.client_area();
+    // Cell 3 of the first row of "Default": 132, 110, 234.
+    push_click(c.x + 3 * 24 + 12, c.y + 12, SDL_BUTTON_RIGHT);
+    pump();
+    EXPECT_EQ(tools().color(1), Color(132, 110, 234));
+    EXPECT_EQ(tools().selected_index(), 1u);
+    EXPECT_EQ(tools().color(0), Color(0, 0, 0));
+    EXPECT_EQ(p.cell_at(c.x + 191, c.y + 95), 31);
+}
+
+TEST_F(ColorPanes, TheSquaresTopRightPixelIsTheStripColourExactly) {
+    HSV_Selector& s = tools().selector();
+    const Rectangle strip = s.strip_area();
+    const Rectangle square = s.square_area();
+    const Color strip_colour = s.strip_pixel(20, 40);
+    // A drag in the strip, then a click on the square's corner.
+    Event_Script script;
+    script.then([&] { push_motion(strip.x + 20, strip.y + 40, SDL_BUTTON_LMASK); })
+        .then([&] { push_button(strip.x + 20, strip.y + 40, false); })
+        .then([&] { push_button(square.x + square.width - 1, square.y, false); });
+    const Color before = tools().color(0);
+    push_button(strip.x + 3, strip.y + 3, true);
+    pump();
+    EXPECT_EQ(tools().color(0), before);  // the strip changes no tool colour
+    EXPECT_EQ(s.hue_color(), strip_colour);
+    push_button(square.x + square.width - 1, square.y, true);
+    pump();
+    EXPECT_EQ(tools().color(0), strip_colour);
+    EXPECT_FALSE(script.ran_out());
+}
+
+TEST_F(ColorPanes, ASelectorDragKeepsThePointerInTheSquare) {
+    HSV_Selector& s = tools().selector();
+    const Rectangle square = s.square_area();
+    Event_Script script;
+    // Far below the square: the pick is clamped to the bottom row, black.
+    script.then([&] { push_motion(square.x + 10, square.y + 400, SDL_BUTTON_RMASK); })
+        .then([&] { push_button(square.x + 10, square.y + 127, false, SDL_BUTTON_RIGHT); });
+    push_button(square.x, square.y, true, SDL_BUTTON_RIGHT);
+    pump();
+    EXPECT_EQ(tools().color(1), Color(0, 0, 0));
+    EXPECT_EQ(tools().selected_index(), 1u);
+    // Clicking between the square and the strip does nothing.
+    EXPECT_FALSE(s.mouse_down(0, square.x + square.width + 3, square.y + 5));
+}
+
+TEST_F(ColorPanes, LessMiddleAndMoreAlwaysWorkOnTheLeftColour) {
+    tools().set_tool_color(1, Color(10, 20, 30));
+    Color_Handles& h = tools().handles_pane();
+    const SDL_Point more_red = centre(h.button_area(0, 2));
+    push_click(more_red.x, more_red.y, SDL_BUTTON_RIGHT);
+    pump();
+    EXPECT_EQ(tools().color(0), Color(11, 20, 30));
+    EXPECT_EQ(tools().color(1), Color(10, 20, 30));
+    const SDL_Point middle_blue = centre(h.button_area(2, 1));
+    push_click(middle_blue.x, middle_blue.y);
+    pump();
+    EXPECT_EQ(tools().color(0), Color(11, 20, 128));
+}
+
+TEST_F(ColorPanes, SwapAndBrushSizeCommands) {
+    tools().set_tool_color(1, Color(1, 2, 3));
+    tools().set_tool_color(0, Color(4, 5, 6));
+    g_editor->run_command(command_swap_tool_colors);
+    EXPECT_EQ(tools().color(0), Color(1, 2, 3));
+    EXPECT_EQ(tools().color(1), Color(4, 5, 6));
+    EXPECT_EQ(g_tool_options->brush_size(), 1);
+    push_key(SDLK_6);
+    pump();
+    EXPECT_EQ(g_tool_options->brush_size(), 6);
+    // A new shape keeps size 6.
+    const SDL_Point cross = centre(g_tool_options->brushes().shape_button(4));
+    push_click(cross.x, cross.y);
+    pump();
+    EXPECT_EQ(g_tool_options->brushes().shape(), 4);
+    EXPECT_EQ(g_tool_options->brush_size(), 6);
+    // Each brush tool keeps its own brush.
+    g_editor->run_command(command_lightness_pen);
+    EXPECT_EQ(g_tool_options->brush_size(), 1);
+    g_editor->run_command(command_pen);
+    EXPECT_EQ(g_tool_options->brush_size(), 6);
+}

@@ -1,0 +1,169 @@
+// The map editor's window driven through its own loop, as the editor opens it.
+#include "features/map/map_view.h"
+
+#include <gtest/gtest.h>
+
+#include "model/core/commands.h"
+#include "app/editor.h"
+#include "platform/globals.h"
+#include "model/tileset/tileset.h"
+#include "support/editor_fixture.h"
+#include "tests/ui/event_script.h"
+#include "ui/backdrop.h"
+
+namespace {
+const Color grass(40, 160, 60);
+const Color stone(150, 150, 160);
+const Color seam_red(255, 0, 0);
+const Color empty_cell(64, 64, 64);
+const Color grid_grey(128, 128, 128);
+}  // namespace
+
+class MapViewTest : public Editor_Fixture {
+protected:
+    Tileset& tileset() { return *g_editor->current(); }
+    Tile_Store& store() { return tileset().store(); }
+
+    // Three 24-pixel tiles: grass, stone and a third left black.
+    void SetUp() override {
+        Editor_Fixture::SetUp();
+        store().add_tile();
+        store().add_tile();
+        paint(0, grass);
+        paint(1, stone);
+    }
+    void paint(int tile, Color c) {
+        store().tile_at(tile)->fill(c);
+        store().tile_at(tile)->update_texture();
+    }
+
+    // Where the window's view stands: every view of a map of this size does.
+    Map_View probe() { return Map_View(tileset().map(), store(), "probe"); }
+    static SDL_Point middle(const Rectangle& r) { return SDL_Point{r.x + r.width / 2, r.y + r.height / 2}; }
+};
+
+TEST_F(MapViewTest, PaintFillPickSeamsAndUndoThroughTheEditorsCommand) {
+    ASSERT_EQ(store().current_index(), 2);
+    Map_View view(tileset().map(), store(), "probe");
+    const Rectangle p = view.picture();
+    EXPECT_EQ(view.zoom(), 1) << "20 x 20 cells of 24 pixels fill 480 of the 560 pixels";
+    EXPECT_EQ(p.width, 480);
+    auto cell = [&](int x, int y) { return middle(view.cell_area(x, y)); };
+    auto chooser_tile = [&](int i) {
+        const Rectangle c = view.chooser();
+        return SDL_Point{c.x + i * Map_View::chooser_cell + 16, c.y + 16};
+    };
+
+    Event_Script script;
+    Color in_fill;
+    Color on_seam;
+    Color beside_seam;
+    Color after_undo;
+    script.then([&] {
+        // Stone, dragged along the first row from cell 0 to cell 3.
+        push_click(chooser_tile(1).x, chooser_tile(1).y);
+        push_button(cell(0, 0).x, cell(0, 0).y, true);
+        push_motion(cell(2, 0).x, cell(2, 0).y, SDL_BUTTON_LMASK);
+        push_motion(cell(3, 0).x, cell(3, 0).y, SDL_BUTTON_LMASK);
+        push_button(cell(3, 0).x, cell(3, 0).y, false);
+        // Grass poured over everything still empty, then the seam checker.
+        push_click(chooser_tile(0).x, chooser_tile(0).y);
+        const SDL_Point fill = middle(view.button(Map_View::button_fill));
+        push_click(fill.x, fill.y);
+        push_click(cell(7, 9).x, cell(7, 9).y);
+        push_key(SDLK_S);
+    });
+    script.then([&] {
+        in_fill = read_pixel(cell(1, 5).x, cell(1, 5).y);
+        // The edge between stone (3, 0) and grass (4, 0), and a pixel off it.
+        on_seam = read_pixel(p.x + 4 * 24, p.y + 12);
+        beside_seam = read_pixel(p.x + 4 * 24 + 3, p.y + 12);
+        // The right button picks the stone under the pointer; Ctrl+Z takes the fill back.
+        push_click(cell(1, 0).x, cell(1, 0).y, SDL_BUTTON_RIGHT);
+        push_key(SDLK_Z, SDL_KMOD_CTRL);
+    });
+    script.then([&] {
+        after_undo = read_pixel(cell(1, 5).x, cell(1, 5).y);
+        push_key(SDLK_ESCAPE);
+    });
+    EXPECT_EQ(g_editor->execute(command_map_editor), command_select_tile);
+    EXPECT_FALSE(script.ran_out());
+    EXPECT_EQ(Backdrop::depth(), 0);
+
+    EXPECT_EQ(in_fill, grass);
+    EXPECT_EQ(on_seam, seam_red);
+    EXPECT_EQ(beside_seam, grass);
+    EXPECT_EQ(after_undo, empty_cell);
+    const Tile_Map& map = tileset().map().map();
+    for (int x = 0; x < 4; ++x) EXPECT_EQ(map.at(x, 0), 1) << "cell " << x << " of the drag";
+    EXPECT_EQ(map.at(4, 0), Tile_Map::empty);
+    EXPECT_EQ(map.at(7, 9), Tile_Map::empty);
+    EXPECT_EQ(store().current_index(), 1) << "the picked tile comes back current";
+    EXPECT_TRUE(tileset().is_modified());
+
+    // Ctrl+Y in a new session redoes the fill: the history stays with the map.
+    Event_Script again;
+    again.then([] {
+        push_key(SDLK_Y, SDL_KMOD_CTRL);
+        push_key(SDLK_ESCAPE);
+    });
+    EXPECT_EQ(g_editor->execute(command_map_editor), -1) << "nothing picked: nothing to record";
+    EXPECT_EQ(map.at(7, 9), 0);
+}
+
+TEST_F(MapViewTest, CellsShowTheirTilesCurrentPixelsWithGridAndEraser) {
+    tileset().map().place(0, 0, 0);
+    tileset().map().place(1, 0, 1);
+    tileset().map().mark_saved();  // as read from its file
+    const Map_View view = probe();
+    const Rectangle p = view.picture();
+    const SDL_Point first = middle(view.cell_area(0, 0));
+    const SDL_Point second = middle(view.cell_area(1, 0));
+
+    // A step finds the frame presented before it: each run's first step only
+    // moves the pointer away, so the second sees the view.
+    auto look = [] { push_motion(4, 4); };
+    Event_Script script;
+    script.then(look);
+    Color before;
+    Color grid_line;
+    Color no_grid;
+    script.then([&] {
+        before = read_pixel(second.x, second.y);
+        no_grid = read_pixel(p.x + 24, p.y + 30);
+        push_key(SDLK_G);
+    });
+    script.then([&] {
+        grid_line = read_pixel(p.x + 24, p.y + 30);
+        push_key(SDLK_ESCAPE);
+    });
+    EXPECT_EQ(g_editor->execute(command_map_editor), -1);
+    EXPECT_EQ(before, stone);
+    EXPECT_EQ(no_grid, empty_cell);
+    EXPECT_EQ(grid_line, grid_grey);
+    EXPECT_FALSE(tileset().is_modified()) << "looking changes nothing";
+
+    // Stone is repainted in the editor; the map shows it when it opens again.
+    const Color moss(20, 90, 40);
+    paint(1, moss);
+    Color repainted;
+    Color erased;
+    script.then(look);
+    script.then([&] {
+        repainted = read_pixel(second.x, second.y);
+        const SDL_Point eraser = middle(view.button(Map_View::button_eraser));
+        push_click(eraser.x, eraser.y);
+        push_click(first.x, first.y);
+    });
+    script.then([&] {
+        erased = read_pixel(first.x, first.y);
+        const SDL_Point close = middle(view.button(Map_View::button_close));
+        push_click(close.x, close.y);
+    });
+    EXPECT_EQ(g_editor->execute(command_map_editor), -1);
+    EXPECT_FALSE(script.ran_out());
+    EXPECT_EQ(repainted, moss);
+    EXPECT_EQ(erased, empty_cell);
+    EXPECT_EQ(tileset().map().map().at(0, 0), Tile_Map::empty);
+    EXPECT_TRUE(tileset().is_modified());
+}

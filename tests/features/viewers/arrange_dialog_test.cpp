@@ -1,0 +1,242 @@
+// The arrange dialog through its own loop, alone and as the editor's command.
+#include "features/viewers/arrange_dialog.h"
+
+#include <gtest/gtest.h>
+
+#include <memory>
+#include <vector>
+
+#include "app/canvas_view.h"
+#include "model/core/commands.h"
+#include "app/editor.h"
+#include "platform/globals.h"
+#include "platform/main_window.h"
+#include "platform/sprites.h"
+#include "model/tileset/tileset.h"
+#include "support/editor_fixture.h"
+#include "ui/backdrop.h"
+#include "ui/event_script.h"
+
+namespace {
+constexpr int cells = 16;
+constexpr int cell = 32;
+
+// Tile i gets red i + 1 at its top-left pixel, to tell tiles apart.
+std::vector<int> marks(const Tile_Store& store) {
+    std::vector<int> result;
+    for (const auto& tile : store.all()) result.push_back(tile->get_pixel(0, 0).red);
+    return result;
+}
+
+SDL_Point cell_centre(const Arrange_Dialog& dialog, int index) {
+    const Rectangle g = dialog.grid();
+    return SDL_Point{g.x + (index % cells) * cell + cell / 2, g.y + (index / cells) * cell + cell / 2};
+}
+}  // namespace
+
+class ArrangeDialogTest : public Editor_Fixture {
+protected:
+    void SetUp() override {
+        Editor_Fixture::SetUp();
+        make_tiles(5);
+    }
+
+    Tile_Store& store() { return g_editor->current()->store(); }
+
+    void make_tiles(int count) {
+        Tile_Store& s = store();
+        // Past the most a tileset is made with, as loading a file appends.
+        while (s.tile_count() < count) s.append(std::make_unique<Tile>(int(s.tile_width()), int(s.tile_height())));
+        int i = 0;
+        for (const auto& tile : s.all()) {
+            tile->fill(Color(uint8_t(40 + i), uint8_t(200 - i), uint8_t(i * 3)));
+            tile->set_pixel(0, 0, Color(uint8_t(i + 1), 0, 0));
+            tile->update_texture();
+            ++i;
+        }
+        s.go_to(2);
+        g_editor->execute(command_change_tile);
+    }
+};
+
+TEST_F(ArrangeDialogTest, TabSwapsThePairAndTwiceRestoresTheOrderButStillReportsSwaps) {
+    Arrange_Dialog dialog(cells, cells, cell, cell, store());
+    Event_Script script;
+    std::vector<int> after_one_swap;
+    int primary_after = -1;
+    int secondary_after = -1;
+    script.then([&] {
+        const SDL_Point p = cell_centre(dialog, 4);
+        push_click(p.x, p.y, SDL_BUTTON_RIGHT);
+        push_key(SDLK_TAB);
+    });
+    script.then([&] {
+        after_one_swap = marks(store());
+        primary_after = dialog.primary_tile();
+        secondary_after = dialog.secondary_tile();
+        push_key(SDLK_TAB);
+    });
+    script.then([] { push_key(SDLK_ESCAPE); });
+    EXPECT_TRUE(dialog.run());
+    EXPECT_FALSE(script.ran_out());
+    EXPECT_EQ(after_one_swap, (std::vector<int>{1, 2, 5, 4, 3}));
+    // Each marker stays on the tile it marked.
+    EXPECT_EQ(primary_after, 4);
+    EXPECT_EQ(secondary_after, 2);
+    EXPECT_EQ(marks(store()), (std::vector<int>{1, 2, 3, 4, 5}));
+    EXPECT_EQ(Backdrop::depth(), 0);
+
+    // As the editor's command: one step to undo on top of the history, the
+    // tileset is modified and the canvas shows what now stands at the current place.
+    Tileset& t = *g_editor->current();
+    g_editor->run_command(command_next_tile);
+    g_editor->run_command(command_previous_tile);
+    const int records = t.history().count();
+    ASSERT_GT(records, 1);
+    t.clear_modified();
+    script.then([] {
+        push_click(0, 0, SDL_BUTTON_RIGHT);
+        push_key(SDLK_TAB);
+        push_key(SDLK_RETURN);
+    });
+    // The right click outside the grid leaves the secondary tile at 0.
+    g_editor->run_command(command_arrange_select);
+    EXPECT_EQ(marks(store()), (std::vector<int>{3, 2, 1, 4, 5}));
+    EXPECT_EQ(t.history().count(), records + 1);
+    EXPECT_TRUE(t.is_modified());
+    EXPECT_EQ(store().current_index(), 2);
+    EXPECT_EQ(g_editor->canvas().tile(), store().tile_at(2));
+    // Undo puts the tiles back in their order, redo swaps them again.
+    g_editor->run_command(command_undo);
+    EXPECT_EQ(marks(store()), (std::vector<int>{1, 2, 3, 4, 5}));
+    g_editor->run_command(command_redo);
+    EXPECT_EQ(marks(store()), (std::vector<int>{3, 2, 1, 4, 5}));
+}
+
+TEST_F(ArrangeDialogTest, SpaceSelectsOnlyAnotherTileAndReturnYAndEscapeSelectNothing) {
+    Tileset& t = *g_editor->current();
+    const int records = t.history().count();
+    Event_Script script;
+    // Space on the starting tile: nothing changes, nothing is recorded.
+    script.then([] { push_key(SDLK_SPACE); });
+    EXPECT_EQ(g_editor->execute(command_arrange_select), -1);
+    EXPECT_FALSE(script.ran_out());
+    EXPECT_EQ(store().current_index(), 2);
+    EXPECT_FALSE(t.is_modified());
+
+    // A marked tile closed with Return, "y" or Escape is not selected.
+    for (SDL_Keycode key : {SDLK_RETURN, SDLK_Y, SDLK_ESCAPE}) {
+        Arrange_Dialog dialog(cells, cells, cell, cell, store());
+        script.then([&dialog, key] {
+            const SDL_Point p = cell_centre(dialog, 0);
+            push_click(p.x, p.y);
+            push_key(key);
+        });
+        EXPECT_FALSE(dialog.run());
+        EXPECT_EQ(dialog.primary_tile(), 0);
+        EXPECT_EQ(store().current_index(), 2) << key;
+    }
+
+    // Space after a left click selects, recorded like a click on the strip.
+    Arrange_Dialog probe(cells, cells, cell, cell, store());
+    const SDL_Point p = cell_centre(probe, 4);
+    script.then([p] {
+        push_click(p.x, p.y);
+        push_key(SDLK_SPACE);
+    });
+    g_editor->run_command(command_arrange_select);
+    EXPECT_EQ(store().current_index(), 4);
+    EXPECT_EQ(g_editor->canvas().tile(), store().tile_at(4));
+    EXPECT_EQ(t.history().count(), records + 1);
+    EXPECT_EQ(t.history().at(t.history().position()).tile_index(), 4);
+    EXPECT_FALSE(t.is_modified());
+    EXPECT_EQ(marks(store()), (std::vector<int>{1, 2, 3, 4, 5}));
+}
+
+TEST_F(ArrangeDialogTest, ClicksPastTheLastTileSelectNothingAndOkCloses) {
+    Arrange_Dialog dialog(cells, cells, cell, cell, store());
+    const Rectangle g = dialog.grid();
+    // The first row's empty cells, right of tile 4, and the rows below.
+    EXPECT_EQ(dialog.hit(float(g.x + 5 * cell + 3), float(g.y + 3)), -1);
+    EXPECT_EQ(dialog.hit(float(g.x + 3), float(g.y + cell + 3)), -1);
+    EXPECT_EQ(dialog.hit(float(g.x + 4 * cell + cell - 1), float(g.y + cell - 1)), 4);
+    EXPECT_EQ(dialog.hit(float(g.x - 1), float(g.y)), -1);
+
+    Event_Script script;
+    int primary = -2;
+    int secondary = -2;
+    script.then([&] {
+        push_click(g.x + 7 * cell + 5, g.y + 5);
+        push_click(g.x + 5, g.y + 9 * cell, SDL_BUTTON_RIGHT);
+        push_key(SDLK_TAB);
+    });
+    script.then([&] {
+        primary = dialog.primary_tile();
+        secondary = dialog.secondary_tile();
+        push_key(SDLK_SPACE);
+    });
+    EXPECT_TRUE(dialog.run()) << "Tab swapped the current tile with tile 0";
+    EXPECT_EQ(primary, 0);
+    EXPECT_EQ(secondary, 2);
+    EXPECT_EQ(marks(store()), (std::vector<int>{3, 2, 1, 4, 5}));
+
+    // The "Ok" button lies below the grid and closes the dialog.
+    Arrange_Dialog again(cells, cells, cell, cell, store());
+    const Rectangle f = again.frame();
+    script.then([&] {
+        for (int y = f.y + f.height - 1; y > again.grid().y + again.grid().height; --y)
+            push_click(f.x + f.width / 2, y);
+    });
+    EXPECT_FALSE(again.run());
+    EXPECT_FALSE(script.ran_out());
+}
+
+TEST_F(ArrangeDialogTest, DrawsEveryTileInItsCellWithTheMarkersAndCopesWithMoreThanTheGridHolds) {
+    SDL_Surface* pool = SDL_LoadBMP(source_path("data/pool.bmp").string().c_str());
+    ASSERT_NE(pool, nullptr);
+    auto sheet_pixel = [pool](int sprite, int x, int y) {
+        Color c;
+        SDL_ReadSurfacePixel(pool, sprite_table[sprite].x + x, sprite_table[sprite].y + y, &c.red, &c.green,
+                             &c.blue, &c.alpha);
+        c.alpha = 255;
+        return c;
+    };
+    Arrange_Dialog dialog(cells, cells, cell, cell, store());
+    Event_Script script;
+    script.then([&] {
+        const SDL_Point p = cell_centre(dialog, 3);
+        push_click(p.x, p.y, SDL_BUTTON_RIGHT);
+    });
+    script.then([] { push_key(SDLK_ESCAPE); });
+    dialog.run();
+    const Rectangle g = dialog.grid();
+    for (int i = 0; i < 5; ++i) {
+        const Rectangle p = dialog.picture_of(i);
+        EXPECT_EQ(read_pixel(p.x + p.width - 1, p.y + p.height - 1), store().tile_at(i)->get_pixel(23, 23)) << i;
+    }
+    // The first big marker on the current tile, the second on tile 3.
+    const SDL_Point first{g.x + 2 * cell, g.y};
+    const SDL_Point second{g.x + 3 * cell, g.y};
+    EXPECT_EQ(read_pixel(first.x + 1, first.y + 1), sheet_pixel(sprite_first_big_marker, 1, 1));
+    EXPECT_EQ(read_pixel(second.x + 1, second.y + 1), sheet_pixel(sprite_second_big_marker, 1, 1));
+    EXPECT_NE(sheet_pixel(sprite_first_big_marker, 1, 1), sheet_pixel(sprite_second_big_marker, 1, 1));
+    // The dialog lies inside the window.
+    const Rectangle f = dialog.frame();
+    EXPECT_GE(f.y, 0);
+    EXPECT_LE(f.y + f.height, int(g_main_window->height()));
+    SDL_DestroySurface(pool);
+
+    // A loaded file may hold more tiles than the grid; the current one can
+    // lie beyond it.
+    make_tiles(300);
+    store().go_to(290);
+    Arrange_Dialog big(cells, cells, cell, cell, store());
+    script.then([&] {
+        push_motion(g.x + 3, g.y + 15 * cell + 3);
+        push_key(SDLK_TAB);
+        push_key(SDLK_ESCAPE);
+    });
+    EXPECT_TRUE(big.run());
+    EXPECT_EQ(store().tile_count(), 300);
+    EXPECT_EQ(store().tile_at(0)->get_pixel(0, 0).red, uint8_t(291));
+}

@@ -1,0 +1,220 @@
+#include "model/color/palette.h"
+
+#include <gtest/gtest.h>
+
+#include <filesystem>
+#include <string>
+#include <vector>
+
+#include "support/scratch_dir.h"
+
+namespace {
+
+// A palette file holding the given text behind its length.
+void write_palette_file(const std::string& path, const std::string& text) {
+    std::vector<unsigned char> bytes(4);
+    const uint32_t length = static_cast<uint32_t>(text.size());
+    for (int i = 0; i < 4; ++i) bytes[i] = static_cast<unsigned char>(length >> (8 * i));
+    bytes.insert(bytes.end(), text.begin(), text.end());
+    write_bytes(path, bytes);
+}
+
+std::string stored_text(const std::string& path) {
+    const auto bytes = read_bytes(path);
+    if (bytes.size() < 4) return {};
+    return std::string(bytes.begin() + 4, bytes.end());
+}
+
+TEST(PaletteBuiltIn, MissingFileGivesThreePagesOf32) {
+    Scratch_Dir dir;
+    Palette palette(dir.file("palette.dat"));
+    ASSERT_EQ(palette.page_count(), 3);
+    EXPECT_EQ(palette.name(0), "Default");
+    EXPECT_EQ(palette.name(1), "EGA");
+    EXPECT_EQ(palette.name(2), "MSX");
+    for (int page = 0; page < 3; ++page) {
+        EXPECT_EQ(palette.count(page), 32);
+        for (int i = 0; i < 32; ++i) EXPECT_EQ(palette.color(page, i).alpha, 255);
+    }
+    // The deliberate quirks: MSX's second entry is not black, the short pages are padded.
+    EXPECT_EQ(palette.color(2, 1), Color(1, 1, 1));
+    EXPECT_EQ(palette.color(1, 16), Color(0, 0, 0));
+    EXPECT_FALSE(palette.dirty());
+}
+
+TEST(PaletteWriting, UnchangedPaletteWritesNoFile) {
+    Scratch_Dir dir;
+    const std::string path = dir.file("palette.dat");
+    { Palette palette(path); }
+    EXPECT_FALSE(std::filesystem::exists(path));
+}
+
+TEST(PaletteWriting, ChangedPaletteWritesEveryPageAsTokens) {
+    Scratch_Dir dir;
+    const std::string path = dir.file("palette.dat");
+    std::string expected;
+    {
+        Palette palette(path);
+        palette.set_color(1, 3, Color(1, 2, 3, 4));
+        EXPECT_TRUE(palette.dirty());
+        expected = "3";
+        for (int page = 0; page < 3; ++page) {
+            expected += "," + std::to_string(palette.count(page));
+            for (int i = 0; i < palette.count(page); ++i) {
+                const Color c = palette.color(page, i);
+                for (int channel : {c.red, c.green, c.blue, c.alpha})
+                    expected += "," + std::to_string(channel);
+            }
+            expected += "," + palette.name(page) + ",";
+        }
+        expected += ":";
+    }
+    const std::string text = stored_text(path);
+    EXPECT_EQ(text, expected);
+    EXPECT_EQ(text.rfind("3,32,255,255,255,255,0,0,0,255,", 0), 0u);
+    EXPECT_NE(text.find(",174,0,153,255,Default,,32,"), std::string::npos);
+    EXPECT_NE(text.find(",1,2,3,4,"), std::string::npos);
+    EXPECT_EQ(read_bytes(path).size(), 4 + text.size());
+}
+
+TEST(PaletteReading, WhatIsWrittenReadsBackAndOlderFilesStillRead) {
+    Scratch_Dir dir;
+    const std::string path = dir.file("palette.dat");
+    {
+        Palette palette(path);
+        palette.set_color(2, 0, Color(9, 9, 9));
+        palette.set_color(0, 31, Color(1, 2, 3, 0));
+    }
+    Palette reread(path);
+    ASSERT_EQ(reread.page_count(), 3);
+    EXPECT_EQ(reread.name(0), "Default");
+    EXPECT_EQ(reread.name(2), "MSX");
+    EXPECT_EQ(reread.color(2, 0), Color(9, 9, 9));
+    EXPECT_EQ(reread.color(0, 31), Color(1, 2, 3, 0));
+    EXPECT_EQ(reread.color(1, 1), Color(0, 0, 170));
+    EXPECT_FALSE(reread.dirty());
+
+    // Written before: each name glued to the number before it, a page of no
+    // colours included; a file of names only is read as it always was.
+    write_palette_file(path, "2,1,10,20,30,255Warm,,0Empty,:");
+    Palette older(path);
+    ASSERT_EQ(older.page_count(), 2);
+    EXPECT_EQ(older.name(0), "Warm");
+    EXPECT_EQ(older.color(0, 0), Color(10, 20, 30));
+    EXPECT_EQ(older.name(1), "Empty");
+    EXPECT_EQ(older.count(1), 0);
+    write_palette_file(path, "2,4,Sky,2,Sea,:");
+    Palette names(path);
+    ASSERT_EQ(names.page_count(), 2);
+    EXPECT_EQ(names.name(1), "Sea");
+    EXPECT_EQ(names.color(0, 3), Color(0, 0, 0));
+}
+
+TEST(PaletteWriting, EmptyNameBecomesRolololo) {
+    Scratch_Dir dir;
+    const std::string path = dir.file("palette.dat");
+    write_palette_file(path, "1,2,:");
+    {
+        Palette palette(path);
+        ASSERT_EQ(palette.page_count(), 1);
+        EXPECT_EQ(palette.name(0), "");
+        palette.set_color(0, 1, Color(5, 6, 7));
+        ASSERT_TRUE(palette.write());
+        EXPECT_EQ(palette.name(0), "Rolololo");
+    }
+    EXPECT_EQ(stored_text(path), "1,2,0,0,0,255,5,6,7,255,Rolololo,:");
+}
+
+TEST(PaletteWriting, UnopenableFileIsSilentlySkipped) {
+    Scratch_Dir dir;
+    const std::string path = dir.file("missing_dir/palette.dat");
+    {
+        Palette palette(path);
+        palette.set_color(0, 0, Color(1, 1, 1));
+        EXPECT_FALSE(palette.write());
+    }
+    EXPECT_FALSE(std::filesystem::exists(path));
+}
+
+TEST(PaletteReading, EmptyTextGivesNoPages) {
+    Scratch_Dir dir;
+    const std::string path = dir.file("palette.dat");
+    write_palette_file(path, "");
+    Palette palette(path);
+    EXPECT_EQ(palette.page_count(), 0);
+}
+
+TEST(PaletteReading, NegativePageCountGivesNoPages) {
+    Scratch_Dir dir;
+    const std::string path = dir.file("palette.dat");
+    write_palette_file(path, "-4,1,a:");
+    Palette palette(path);
+    EXPECT_EQ(palette.page_count(), 0);
+}
+
+TEST(PaletteReading, MissingColonAndTextEndingInsideATokenStopAtTheEnd) {
+    Scratch_Dir dir;
+    const std::string path = dir.file("palette.dat");
+    write_palette_file(path, "2,3,Warm");
+    Palette palette(path);
+    ASSERT_EQ(palette.page_count(), 2);
+    EXPECT_EQ(palette.count(0), 3);
+    EXPECT_EQ(palette.name(0), "Warm");
+    EXPECT_EQ(palette.count(1), 0);
+    EXPECT_EQ(palette.name(1), "");
+}
+
+TEST(PaletteReading, DamagedCountsFallBackToTheBuiltInPagesAndLeaveTheFile) {
+    Scratch_Dir dir;
+    const std::string path = dir.file("palette.dat");
+    for (const char* text : {"1,-3,name:", "1,100000,name:", "2147483647:", "65:"}) {
+        write_palette_file(path, text);
+        const auto bytes = read_bytes(path);
+        {
+            Palette palette(path);
+            ASSERT_EQ(palette.page_count(), 3) << text;
+            EXPECT_EQ(palette.name(0), "Default");
+            EXPECT_EQ(palette.count(2), 32);
+            EXPECT_FALSE(palette.damage_report().empty());
+        }
+        EXPECT_EQ(read_bytes(path), bytes) << text;
+    }
+    // Within the bounds the reading rules hold: missing tokens give empty pages.
+    write_palette_file(path, "5,256,a:");
+    Palette palette(path);
+    ASSERT_EQ(palette.page_count(), 5);
+    EXPECT_EQ(palette.count(0), 256);
+    EXPECT_EQ(palette.name(0), "a");
+    EXPECT_EQ(palette.count(4), 0);
+    EXPECT_EQ(palette.name(4), "");
+    EXPECT_TRUE(palette.damage_report().empty());
+}
+
+class PaletteDeathTest : public ::testing::Test {
+protected:
+    Scratch_Dir dir;
+};
+
+TEST_F(PaletteDeathTest, LengthBeyondTheFileEndsWithTheBlockError) {
+    const std::string path = dir.file("palette.dat");
+    write_bytes(path, {0x00, 0x00, 0x00, 0x40, '3', ':'});
+    EXPECT_EXIT(
+        {
+            send_stdout_to_stderr();
+            Palette palette(path);
+        },
+        ::testing::ExitedWithCode(1), "Error: Unable to load block from  .*palette\\.dat!");
+}
+
+TEST_F(PaletteDeathTest, FileShorterThanItsLengthEndsWithTheBlockError) {
+    const std::string path = dir.file("palette.dat");
+    write_bytes(path, {0x01});
+    EXPECT_EXIT(
+        {
+            send_stdout_to_stderr();
+            Palette palette(path);
+        },
+        ::testing::ExitedWithCode(1), "Unable to load block from  .*palette\\.dat!");
+}
+
+}  // namespace

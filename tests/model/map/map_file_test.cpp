@@ -1,0 +1,167 @@
+// The map file beside a tileset: what it writes, and reading it back, also
+// when it was damaged or made elsewhere.
+#include "model/map/map_file.h"
+
+#include <gtest/gtest.h>
+#include <tinyxml2.h>
+
+#include <fstream>
+#include <sstream>
+#include <string>
+
+#include "model/map/map_editor.h"
+#include "support/scratch_dir.h"
+
+namespace {
+
+void write_text(const std::string& path, const std::string& text) { std::ofstream(path, std::ios::binary) << text; }
+
+// A map of 6 x 6 tiles on a 4 x 3 layer, as another program might write it.
+std::string foreign_map(const std::string& layer_size, const std::string& csv, int tile = 24,
+                        const std::string& encoding = "csv") {
+    const std::string t = std::to_string(tile);
+    return "<?xml version=\"1.0\"?>\n<map orientation=\"orthogonal\" width=\"4\" height=\"3\" tilewidth=\"" + t +
+           "\" tileheight=\"" + t + "\">\n<tileset firstgid=\"1\" name=\"x\"/>\n<layer " + layer_size +
+           "><data encoding=\"" + encoding + "\">" + csv + "</data></layer></map>\n";
+}
+
+TEST(MapFile, ARoundTripKeepsEveryCellAndTheFileSaysWhatTiledReads) {
+    Scratch_Dir dir;
+    // The whole name but its extension: two tilesets never share a map.
+    EXPECT_EQ(Map_File::map_path(dir.file("forest.v2.wst")), dir.file("forest.v2.tmx"));
+    EXPECT_EQ(Map_File::map_path("/a.b/forest"), "/a.b/forest.tmx");
+    EXPECT_EQ(Map_File::sheet_path(dir.file("forest.wst")), dir.file("forest.bmp"));
+
+    Map_Editor m(24, 32);  // 20 x 15 cells
+    m.place(0, 0, 0);
+    m.place(19, 0, 255);
+    m.place(3, 7, 12);
+    m.place(0, 14, 1);
+    const std::string path = dir.file("forest.tmx");
+    ASSERT_TRUE(Map_File::write(m.map(), 24, 32, path));
+
+    Map_Editor back(24, 32);
+    const Map_File::Reading r = Map_File::read(path, back, 24, 32, 256);
+    EXPECT_TRUE(r.found);
+    EXPECT_TRUE(r.whole) << r.problems;
+    EXPECT_EQ(r.cells, 4);
+    for (int c = 0; c < m.map().cell_count(); ++c) ASSERT_EQ(back.map().at(c), m.map().at(c)) << "cell " << c;
+
+    tinyxml2::XMLDocument doc;
+    ASSERT_EQ(doc.LoadFile(path.c_str()), tinyxml2::XML_SUCCESS);
+    const tinyxml2::XMLElement* map = doc.RootElement();
+    EXPECT_STREQ(map->Name(), "map");
+    EXPECT_STREQ(map->Attribute("orientation"), "orthogonal");
+    EXPECT_STREQ(map->Attribute("renderorder"), "right-down");
+    EXPECT_STREQ(map->Attribute("tiledversion"), Map_File::tiled_version) << "some loaders refuse maps without it";
+    EXPECT_EQ(map->IntAttribute("width"), 20);
+    EXPECT_EQ(map->IntAttribute("height"), 15);
+    EXPECT_EQ(map->IntAttribute("tilewidth"), 24);
+    EXPECT_EQ(map->IntAttribute("tileheight"), 32);
+    const tinyxml2::XMLElement* tileset = map->FirstChildElement("tileset");
+    ASSERT_NE(tileset, nullptr);
+    EXPECT_EQ(tileset->IntAttribute("firstgid"), 1);
+    EXPECT_EQ(tileset->IntAttribute("columns"), 16);
+    EXPECT_EQ(tileset->IntAttribute("tilecount"), 256);
+    const tinyxml2::XMLElement* image = tileset->FirstChildElement("image");
+    ASSERT_NE(image, nullptr);
+    EXPECT_STREQ(image->Attribute("source"), "forest.bmp") << "beside the map, not a path from elsewhere";
+    EXPECT_EQ(image->IntAttribute("width"), 16 * 24);
+    EXPECT_EQ(image->IntAttribute("height"), 16 * 32);
+    const tinyxml2::XMLElement* layer = map->FirstChildElement("layer");
+    ASSERT_NE(layer, nullptr);
+    EXPECT_EQ(layer->NextSiblingElement("layer"), nullptr);
+    const tinyxml2::XMLElement* data = layer->FirstChildElement("data");
+    ASSERT_NE(data, nullptr);
+    EXPECT_STREQ(data->Attribute("encoding"), "csv");
+    // One row of the map to a line: the first row holds tile 0 and tile 255 as 1 and 256.
+    std::istringstream csv(data->GetText());
+    std::string line;
+    std::getline(csv, line);
+    EXPECT_EQ(line, "");
+    std::getline(csv, line);
+    EXPECT_EQ(line, "1,0,0,0,0,0,0,0,0,0,0,0,0,0,0,0,0,0,0,256,");
+    int lines = 1;
+    while (std::getline(csv, line)) lines += !line.empty();
+    EXPECT_EQ(lines, 15);
+    EXPECT_FALSE(std::filesystem::exists(path + ".part"));
+
+    // A place that cannot be written fails and leaves nothing behind.
+    EXPECT_FALSE(Map_File::write(m.map(), 24, 32, dir.file("missing/forest.tmx")));
+}
+
+TEST(MapFile, DamagedAndForeignFilesAreReadAsFarAsTheyAreValid) {
+    Scratch_Dir dir;
+    const std::string path = dir.file("cave.tmx");
+    auto read = [&](const std::string& text, int tiles = 10) {
+        write_text(path, text);
+        Map_Editor m(24, 24);  // 20 x 20 cells
+        const Map_File::Reading r = Map_File::read(path, m, 24, 24, tiles);
+        EXPECT_TRUE(r.found);
+        return std::make_pair(r, m.map().highest_tile());
+    };
+
+    // A whole foreign map: cells land where they stand.
+    auto [fine, fine_top] = read(foreign_map("width=\"4\" height=\"3\"", "1,2,3,4,\n0,0,0,0,\n0,0,0,10"));
+    EXPECT_TRUE(fine.whole) << fine.problems;
+    EXPECT_EQ(fine.cells, 5);
+    EXPECT_EQ(fine_top, 9);
+
+    // Gids past the tileset, flipped cells, words and huge numbers.
+    auto [gids, gids_top] = read(foreign_map("width=\"4\" height=\"3\"",
+                                             "1,11,999,2147483651,\nx,99999999999,-3,0,\n0,0,0,2"));
+    EXPECT_FALSE(gids.whole);
+    EXPECT_EQ(gids.cells, 3) << "1, the flipped 3 and 2";
+    EXPECT_EQ(gids_top, 2);
+    EXPECT_NE(gids.problems.find("2 cells named tiles"), std::string::npos) << gids.problems;
+    EXPECT_NE(gids.problems.find("3 cells held no valid number"), std::string::npos) << gids.problems;
+    EXPECT_NE(gids.problems.find("flipped"), std::string::npos) << gids.problems;
+
+    // A layer larger than the map is cut; its tile size is another.
+    std::string wide;
+    for (int i = 0; i < 30 * 2; ++i) wide += (i ? "," : "") + std::to_string(i % 30 == 25 ? 4 : 1);
+    auto [big, big_top] = read(foreign_map("width=\"30\" height=\"2\"", wide, 16));
+    EXPECT_FALSE(big.whole);
+    EXPECT_EQ(big.cells, 40) << "the 20 cells of each row that fit";
+    EXPECT_EQ(big_top, 0);
+    EXPECT_NE(big.problems.find("16 x 16"), std::string::npos) << big.problems;
+    EXPECT_NE(big.problems.find("30 x 2"), std::string::npos) << big.problems;
+
+    // Sizes that lie: a layer claiming billions of cells holds three; none at all; a negative one.
+    auto [huge, huge_top] = read(foreign_map("width=\"2147483647\" height=\"2147483647\"", "1,2,3"));
+    EXPECT_FALSE(huge.whole);
+    EXPECT_EQ(huge.cells, 3) << "the three it holds, in the first row";
+    EXPECT_NE(huge.problems.find("ends after 3"), std::string::npos) << huge.problems;
+    auto [none, none_top] = read(foreign_map("width=\"0\" height=\"-5\"", "1,2,3"));
+    EXPECT_FALSE(none.whole);
+    EXPECT_EQ(none.cells, 0);
+
+    // Not CSV, no layer, not a map, not XML, truncated, empty.
+    auto [base64, b_top] = read(foreign_map("width=\"4\" height=\"3\"", "AQAAAA==", 24, "base64"));
+    EXPECT_FALSE(base64.whole);
+    EXPECT_EQ(base64.cells, 0);
+    const std::string written = foreign_map("width=\"4\" height=\"3\"", "1,2,3,4,\n5,6,7,8,\n9,1,2,3");
+    for (const std::string& text :
+         {std::string("<map tilewidth=\"24\" tileheight=\"24\" infinite=\"1\"><layer/></map>"),
+          std::string("<?xml version=\"1.0\"?><tileset/>"), std::string("\x01\x02\xff WST not xml"),
+          written.substr(0, written.size() / 2), written.substr(0, written.find("5,6")), std::string()}) {
+        auto [damaged, damaged_top] = read(text);
+        EXPECT_FALSE(damaged.whole) << text;
+        if (text.find("infinite") != std::string::npos) {
+            EXPECT_NE(damaged.problems.find("infinite map"), std::string::npos) << damaged.problems;
+        }
+        EXPECT_EQ(damaged.cells, 0) << text;
+        EXPECT_FALSE(damaged.problems.empty());
+    }
+
+    // No file: nothing found, nothing to report.
+    Map_Editor m(24, 24);
+    const Map_File::Reading missing = Map_File::read(dir.file("none.tmx"), m, 24, 24, 10);
+    EXPECT_FALSE(missing.found);
+    EXPECT_TRUE(missing.problems.empty());
+    // A directory of that name is no file either.
+    std::filesystem::create_directory(dir.file("dir.tmx"));
+    EXPECT_FALSE(Map_File::read(dir.file("dir.tmx"), m, 24, 24, 10).found);
+}
+
+}  // namespace

@@ -1,0 +1,139 @@
+#include "model/tile/tile.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <random>
+#include <utility>
+
+#include "support/fake_tile_texture.h"
+
+namespace {
+
+const Color transparent_black(0, 0, 0, 0);
+
+void randomise(Tile& tile, unsigned seed) {
+    std::mt19937 random(seed);
+    for (int i = 0; i < tile.pixel_count(); ++i) tile.pixels()[i] = Color::from_word(random());
+}
+
+TEST(TileBasics, NewTileIsOpaqueBlackWithATextureOfItsPixels) {
+    Fake_Texture_Scope textures;
+    Tile tile(5, 3);
+    EXPECT_EQ(tile.width(), 5);
+    EXPECT_EQ(tile.height(), 3);
+    EXPECT_EQ(tile.pixel_count(), 15);
+    for (int y = 0; y < 3; ++y)
+        for (int x = 0; x < 5; ++x) EXPECT_EQ(tile.get_pixel(x, y), Color());
+    EXPECT_TRUE(texture_is_current(tile));
+    EXPECT_EQ(Fake_Texture_Scope::of(tile).updates, 0);
+}
+
+TEST(TilePixelAccess, OutsideReadsTransparentBlackAndIgnoresWrites) {
+    Tile tile(6, 4);
+    tile.fill(Color(9, 9, 9));
+    const std::pair<int, int> outside[] = {{-1, 0}, {6, 0}, {0, -1}, {0, 4}, {-100, 100}};
+    for (auto [x, y] : outside) {
+        EXPECT_TRUE(tile.is_outside(x, y));
+        EXPECT_EQ(tile.get_pixel(x, y), transparent_black);
+        EXPECT_FALSE(tile.set_pixel(x, y, Color(1, 1, 1)));
+        EXPECT_EQ(tile.alpha(x, y), 0);
+        EXPECT_TRUE(tile.is_empty(x, y));
+    }
+    for (int i = 0; i < tile.pixel_count(); ++i) EXPECT_EQ(tile.pixels()[i], Color(9, 9, 9));
+    EXPECT_FALSE(tile.is_outside(5, 3));
+}
+
+TEST(TilePixelAccess, WhiteIgnoresAlphaEmptyNeedsAllFourZero) {
+    Tile tile(2, 2);
+    tile.set_pixel(0, 0, Color(255, 255, 255, 0));
+    tile.set_pixel(1, 0, Color(255, 254, 255));
+    tile.set_pixel(0, 1, Color(0, 0, 0, 1));
+    tile.set_pixel(1, 1, transparent_black);
+    EXPECT_TRUE(tile.is_white(0, 0));
+    EXPECT_FALSE(tile.is_white(1, 0));
+    EXPECT_FALSE(tile.is_empty(0, 1));
+    EXPECT_TRUE(tile.is_empty(1, 1));
+    EXPECT_EQ(tile.alpha(0, 1), 1);
+}
+
+TEST(TileTexture, WritesAndFillLeaveTheTextureUntilUpdated) {
+    Fake_Texture_Scope textures;
+    Tile tile(3, 3);
+    tile.set_pixel(1, 1, Color(200, 0, 0));
+    tile.fill(Color(0, 200, 0));
+    EXPECT_EQ(Fake_Texture_Scope::of(tile).updates, 0);
+    EXPECT_FALSE(texture_is_current(tile));
+    tile.update_texture();
+    EXPECT_TRUE(texture_is_current(tile));
+    tile.draw(12, 34);
+    EXPECT_EQ(Fake_Texture_Scope::of(tile).last_x, 12);
+    EXPECT_EQ(Fake_Texture_Scope::of(tile).last_y, 34);
+}
+
+TEST(TileCopy, SameSizeCopiesAndUpdatesTheDestinationTexture) {
+    Fake_Texture_Scope textures;
+    Tile source(8, 8), destination(8, 8);
+    randomise(source, 1);
+    source.copy_into(destination);
+    EXPECT_TRUE(std::equal(source.pixels(), source.pixels() + 64, destination.pixels()));
+    EXPECT_TRUE(texture_is_current(destination));
+    EXPECT_EQ(Fake_Texture_Scope::of(source).updates, 0);
+}
+
+TEST(TileCopy, ResamplingWritesOpaquePixelsEvenFromTransparentOnes) {
+    Tile tile(24, 24), up(48, 48), back(24, 24);
+    tile.fill(transparent_black);
+    tile.set_pixel(3, 3, Color(10, 20, 30, 40));
+    tile.copy_into(up);
+    up.copy_into(back);
+    for (int i = 0; i < up.pixel_count(); ++i) EXPECT_EQ(up.pixels()[i].alpha, 255);
+    for (int i = 0; i < back.pixel_count(); ++i) EXPECT_EQ(back.pixels()[i].alpha, 255);
+}
+
+// Resampling blends neighbouring source pixels: every channel of the result
+// lies between the smallest and largest of the source (less one step lost to
+// truncation), a flat tile stays flat
+// and the top-left pixel is kept, whatever the two sizes.
+TEST(TileCopy, ResamplingBlendsOnlyNeighbouringColours) {
+    const std::pair<int, int> sizes[][2] = {
+        {{24, 24}, {48, 48}}, {{48, 48}, {24, 24}}, {{6, 6}, {64, 64}}, {{64, 64}, {6, 6}},
+        {{1, 1}, {9, 9}},     {{9, 4}, {1, 1}},     {{1, 3}, {200, 2}}, {{13, 7}, {17, 29}}};
+    unsigned seed = 10;
+    for (const auto& pair : sizes) {
+        Tile source(pair[0].first, pair[0].second), flat(pair[0].first, pair[0].second);
+        // Channels kept in 100..149, so a blend that reached outside the tile
+        // (transparent black) or overflowed would leave the range.
+        std::mt19937 random(seed++);
+        for (int i = 0; i < source.pixel_count(); ++i)
+            source.pixels()[i] = Color(uint8_t(100 + random() % 50), uint8_t(random()), uint8_t(random()));
+        flat.fill(Color(70, 140, 210, 3));
+        Tile scaled(pair[1].first, pair[1].second), flat_scaled(pair[1].first, pair[1].second);
+        source.copy_into(scaled);
+        flat.copy_into(flat_scaled);
+        const Color corner = source.get_pixel(0, 0);
+        EXPECT_EQ(scaled.get_pixel(0, 0), Color(corner.red, corner.green, corner.blue));
+        uint8_t low = 255, high = 0;
+        for (int i = 0; i < source.pixel_count(); ++i) {
+            low = std::min({low, source.pixels()[i].red});
+            high = std::max({high, source.pixels()[i].red});
+        }
+        for (int i = 0; i < scaled.pixel_count(); ++i) {
+            ASSERT_GE(scaled.pixels()[i].red + 1, low);
+            ASSERT_LE(scaled.pixels()[i].red, high);
+            // Truncating the blended sum may lose one step, never more.
+            const Color f = flat_scaled.pixels()[i];
+            ASSERT_TRUE(f.red >= 69 && f.red <= 70 && f.green >= 139 && f.green <= 140 && f.blue >= 209 && f.alpha == 255);
+        }
+    }
+}
+
+TEST(TileCopy, EmptyTilesAreLeftAlone) {
+    Tile empty(0, 0), tile(4, 4);
+    tile.fill(Color(5, 5, 5));
+    empty.copy_into(tile);
+    tile.copy_into(empty);
+    EXPECT_EQ(tile.get_pixel(2, 2), Color(5, 5, 5));
+}
+
+}  // namespace

@@ -1,0 +1,268 @@
+#include "model/tileset/tileset_file.h"
+
+#include <gtest/gtest.h>
+
+#include <sys/resource.h>
+#include <sys/stat.h>
+
+#include <csignal>
+#include <filesystem>
+#include <random>
+#include <vector>
+
+#include "support/fake_tile_texture.h"
+#include "support/scratch_dir.h"
+
+namespace {
+
+using Bytes = std::vector<unsigned char>;
+
+void randomise(Tile_Store& store, int count, std::mt19937& random) {
+    for (int i = 0; i < count; ++i) {
+        store.add_tile();
+        Tile& tile = *store.current_tile();
+        for (int k = 0; k < tile.pixel_count(); ++k) tile.pixels()[k] = Color::from_word(random());
+    }
+}
+
+bool same_tiles(const Tile_Store& a, const Tile_Store& b) {
+    if (a.tile_count() != b.tile_count() || a.tile_width() != b.tile_width() ||
+        a.tile_height() != b.tile_height())
+        return false;
+    for (int i = 0; i < a.tile_count(); ++i) {
+        const Tile& x = *a.tile_at(i);
+        const Tile& y = *b.tile_at(i);
+        if (!std::equal(x.pixels(), x.pixels() + x.pixel_count(), y.pixels())) return false;
+    }
+    return true;
+}
+
+// Later writes fail once a file would grow beyond the limit.
+void limit_file_size(rlim_t bytes) {
+    std::signal(SIGXFSZ, SIG_IGN);
+    const rlimit limit{bytes, bytes};
+    setrlimit(RLIMIT_FSIZE, &limit);
+}
+
+int32_t write_two_tiles(const std::string& path) {
+    Tile_Store store(24, 24, 256);
+    store.add_tile();
+    store.add_tile();
+    return Tileset_File::write(store, path);
+}
+
+TEST(TilesetFileWriting, TwoTilesOf24Make4619BytesWithTheListedHeader) {
+    Scratch_Dir dir;
+    const std::string path = dir.file("two.wst");
+    Tile_Store store(24, 24, 256);
+    store.add_tile();
+    store.add_tile();
+    EXPECT_EQ(Tileset_File::write(store, path), 4619);
+    const Bytes bytes = read_bytes(path);
+    ASSERT_EQ(bytes.size(), 4619u);
+    const Bytes header{0x57, 0x53, 0x54, 0x0A, 0x00, 0x18, 0x18, 0x02, 0x00, 0x00, 0x00};
+    EXPECT_TRUE(std::equal(header.begin(), header.end(), bytes.begin()));
+}
+
+TEST(TilesetFileWriting, PixelsAreStoredAlphaBlueGreenRedRowByRow) {
+    Scratch_Dir dir;
+    const std::string path = dir.file("order.wst");
+    Tile_Store store(2, 1, 256);
+    store.add_tile();
+    store.current_tile()->set_pixel(0, 0, Color(0x11, 0x22, 0x33, 0x44));
+    store.current_tile()->set_pixel(1, 0, Color(0x55, 0x66, 0x77, 0x88));
+    ASSERT_EQ(Tileset_File::write(store, path), 11 + 8);
+    const Bytes bytes = read_bytes(path);
+    const Bytes pixels{0x44, 0x33, 0x22, 0x11, 0x88, 0x77, 0x66, 0x55};
+    EXPECT_TRUE(std::equal(pixels.begin(), pixels.end(), bytes.begin() + 11));
+}
+
+TEST(TilesetFileWriting, SizesOf256OrMoreKeepTheirLow8Bits) {
+    Scratch_Dir dir;
+    const std::string path = dir.file("wide.wst");
+    Tile_Store store(260, 1, 256);
+    store.add_tile();
+    EXPECT_EQ(Tileset_File::write(store, path), 11 + 260 * 4);
+    const Bytes bytes = read_bytes(path);
+    EXPECT_EQ(bytes[5], 4);
+    EXPECT_EQ(bytes[6], 1);
+}
+
+TEST(TilesetFileWriting, NoTemporaryFileIsLeftBehind) {
+    Scratch_Dir dir;
+    const std::string path = dir.file("clean.wst");
+    Tile_Store store(6, 6, 256);
+    store.add_tile();
+    write_bytes(path, {1, 2, 3});
+    ASSERT_GT(Tileset_File::write(store, path), 0);
+    int entries = 0;
+    for ([[maybe_unused]] const auto& entry : std::filesystem::directory_iterator(dir.path()))
+        ++entries;
+    EXPECT_EQ(entries, 1);
+    EXPECT_EQ(read_bytes(path).size(), 11u + 144);
+}
+
+TEST(TilesetFileWriting, UncreatableFileReturnsMinusOne) {
+    Scratch_Dir dir;
+    Tile_Store store(6, 6, 256);
+    store.add_tile();
+    EXPECT_EQ(Tileset_File::write(store, dir.file("missing/x.wst")), -1);
+    std::filesystem::create_directory(dir.file("folder.wst"));
+    EXPECT_EQ(Tileset_File::write(store, dir.file("folder.wst")), -1);
+    EXPECT_TRUE(std::filesystem::is_directory(dir.file("folder.wst")));
+}
+
+TEST(TilesetFileWriting, SavingThroughALinkReplacesWhatItPointsAt) {
+    Scratch_Dir dir;
+    const std::string real = dir.file("real.wst");
+    const std::string link = dir.file("link.wst");
+    write_bytes(real, {0});
+    std::filesystem::create_symlink(real, link);
+    Tile_Store store(6, 6, 256);
+    store.add_tile();
+    ASSERT_GT(Tileset_File::write(store, link), 0);
+    EXPECT_TRUE(std::filesystem::is_symlink(link));
+    EXPECT_EQ(read_bytes(real).size(), 11u + 144);
+}
+
+TEST(TilesetFileWritingDeathTest, AFailedWriteLeavesThePreviousFileIntact) {
+    Scratch_Dir dir;
+    const std::string path = dir.file("keep.wst");
+    const Bytes previous(100, 0xAB);
+    write_bytes(path, previous);
+    // The child may write files of at most 1000 bytes, so the 4619-byte
+    // tileset cannot be written completely.
+    EXPECT_EXIT(
+        {
+            limit_file_size(1000);
+            std::_Exit(write_two_tiles(path) == -1 && read_bytes(path) == previous ? 0 : 2);
+        },
+        ::testing::ExitedWithCode(0), "");
+    EXPECT_EQ(read_bytes(path), previous);
+    int entries = 0;
+    for ([[maybe_unused]] const auto& entry : std::filesystem::directory_iterator(dir.path()))
+        ++entries;
+    EXPECT_EQ(entries, 1);
+}
+
+TEST(TilesetFileRoundTrip, RandomTilesetsComeBackByteForByte) {
+    Scratch_Dir dir;
+    std::mt19937 random(2024);
+    std::uniform_int_distribution<int> side(6, 64);
+    std::uniform_int_distribution<int> count(1, 256);
+    for (int round = 0; round < 12; ++round) {
+        const int w = side(random), h = side(random);
+        const int n = round == 0 ? 256 : round == 1 ? 1 : count(random);
+        Tile_Store store(w, h, 256);
+        randomise(store, n, random);
+        const std::string path = dir.file("round" + std::to_string(round) + ".wst");
+        const int32_t written = Tileset_File::write(store, path);
+        ASSERT_EQ(written, int32_t(11 + uint64_t(n) * w * h * 4));
+        std::unique_ptr<Tile_Store> back = Tileset_File::read(path);
+        ASSERT_TRUE(back);
+        EXPECT_TRUE(same_tiles(store, *back)) << w << " x " << h << ", " << n << " tiles";
+        const std::string again = dir.file("again.wst");
+        ASSERT_EQ(Tileset_File::write(*back, again), written);
+        EXPECT_EQ(read_bytes(path), read_bytes(again));
+    }
+}
+
+TEST(TilesetFileReading, LoadedTilesAreShownAndTheFirstIsCurrent) {
+    Fake_Texture_Scope textures;
+    Scratch_Dir dir;
+    const std::string path = dir.file("shown.wst");
+    std::mt19937 random(5);
+    Tile_Store store(6, 7, 256);
+    randomise(store, 3, random);
+    ASSERT_GT(Tileset_File::write(store, path), 0);
+    auto back = Tileset_File::read(path);
+    ASSERT_TRUE(back);
+    EXPECT_EQ(back->current_index(), 0);
+    EXPECT_EQ(back->current_tile(), back->tile_at(0));
+    for (const auto& tile : back->all()) EXPECT_TRUE(texture_is_current(*tile));
+}
+
+TEST(TilesetFileReading, BytesThreeAndFourAreNotExamined) {
+    Scratch_Dir dir;
+    const std::string path = dir.file("odd.wst");
+    Bytes bytes{'W', 'S', 'T', 'x', 'y', 1, 1, 1, 0, 0, 0, 1, 2, 3, 4};
+    write_bytes(path, bytes);
+    auto back = Tileset_File::read(path);
+    ASSERT_TRUE(back);
+    EXPECT_EQ(back->tile_at(0)->get_pixel(0, 0), Color(4, 3, 2, 1));
+}
+
+TEST(TilesetFileReading, TheCountIsNotLimitedByTheStoreMaximum) {
+    Scratch_Dir dir;
+    const std::string path = dir.file("many.wst");
+    Bytes bytes{'W', 'S', 'T', 0x0A, 0, 1, 1, 0x2C, 0x01, 0, 0};
+    bytes.resize(11 + 300 * 4, 0xFF);
+    write_bytes(path, bytes);
+    auto back = Tileset_File::read(path);
+    ASSERT_TRUE(back);
+    EXPECT_EQ(back->tile_count(), 300);
+    EXPECT_FALSE(back->add_tile());
+}
+
+TEST(TilesetFileReading, RefusedFilesGiveNoTiles) {
+    Scratch_Dir dir;
+    EXPECT_FALSE(Tileset_File::read(dir.file("missing.wst")));
+    const std::vector<Bytes> refused{
+        {'W', 'S', 'X', 0x0A, 0, 1, 1, 1, 0, 0, 0, 1, 2, 3, 4},
+        {'w', 's', 't', 0x0A, 0, 1, 1, 1, 0, 0, 0, 1, 2, 3, 4},
+        {'W', 'S', 'T', 0x0A, 0, 0, 1, 1, 0, 0, 0},
+        {'W', 'S', 'T', 0x0A, 0, 1, 0, 1, 0, 0, 0},
+        {'W', 'S', 'T', 0x0A, 0, 1, 1, 0, 0, 0, 0},
+    };
+    for (size_t i = 0; i < refused.size(); ++i) {
+        const std::string path = dir.file("refused" + std::to_string(i) + ".wst");
+        write_bytes(path, refused[i]);
+        EXPECT_FALSE(Tileset_File::read(path)) << "file " << i;
+    }
+    // A whole file of a million 1 x 1 tiles: refused before a tile is made.
+    Bytes million{'W', 'S', 'T', 0x0A, 0, 1, 1, 0x40, 0x42, 0x0F, 0};
+    million.resize(11 + 1000000 * 4, 0x7F);
+    write_bytes(dir.file("million.wst"), million);
+    EXPECT_FALSE(Tileset_File::read(dir.file("million.wst")));
+    // A pipe would never end, a folder is no file: refused, not read.
+    ASSERT_EQ(mkfifo(dir.file("pipe.wst").c_str(), 0600), 0);
+    EXPECT_FALSE(Tileset_File::read(dir.file("pipe.wst")));
+    EXPECT_FALSE(Tileset_File::read(dir.path()));
+}
+
+TEST(TilesetFileReadingDeathTest, EveryTruncationEndsWithTheBlockError) {
+    Scratch_Dir dir;
+    const std::string full = dir.file("full.wst");
+    std::mt19937 random(9);
+    Tile_Store store(6, 6, 256);
+    randomise(store, 2, random);
+    ASSERT_EQ(Tileset_File::write(store, full), 299);
+    const Bytes bytes = read_bytes(full);
+    const std::string path = dir.file("cut.wst");
+    for (size_t length = 0; length < bytes.size(); ++length) {
+        write_bytes(path, Bytes(bytes.begin(), bytes.begin() + long(length)));
+        EXPECT_EXIT(
+            {
+                send_stdout_to_stderr();
+                Tileset_File::read(path);
+            },
+            ::testing::ExitedWithCode(1), "^Error: Unable to load block from  .*cut\\.wst!\n$")
+            << "length " << length;
+    }
+    write_bytes(path, bytes);
+    EXPECT_TRUE(Tileset_File::read(path));
+}
+
+TEST(TilesetFileReadingDeathTest, AHugeCountFailsOnTheFirstMissingRecord) {
+    Scratch_Dir dir;
+    const std::string path = dir.file("huge.wst");
+    write_bytes(path, {'W', 'S', 'T', 0x0A, 0, 255, 255, 0xFF, 0xFF, 0xFF, 0xFF, 1, 2});
+    EXPECT_EXIT(
+        {
+            send_stdout_to_stderr();
+            Tileset_File::read(path);
+        },
+        ::testing::ExitedWithCode(1), "Unable to load block from  .*huge\\.wst!");
+}
+
+}  // namespace

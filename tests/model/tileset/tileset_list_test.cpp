@@ -1,0 +1,183 @@
+#include "model/tileset/tileset_list.h"
+
+#include <gtest/gtest.h>
+
+#include <string>
+#include <vector>
+
+#include "model/tileset/tileset_file.h"
+#include "support/scratch_dir.h"
+
+namespace {
+
+TEST(TilesetListNew, FirstIsUntitled1WithOneBlankTileAndCurrent) {
+    Tileset_List list;
+    EXPECT_EQ(list.current(), nullptr);
+    ASSERT_TRUE(list.new_tileset(24, 24));
+    ASSERT_EQ(list.count(), 1);
+    Tileset* t = list.current();
+    ASSERT_NE(t, nullptr);
+    EXPECT_EQ(t->path().full, "untitled1.wst");
+    EXPECT_EQ(t->store().tile_count(), 1);
+    EXPECT_EQ(t->store().current_tile()->get_pixel(0, 0), Color());
+    EXPECT_FALSE(t->is_modified());
+    EXPECT_FALSE(t->is_named());
+    ASSERT_TRUE(list.new_tileset(16, 16));
+    EXPECT_EQ(list.current()->path().full, "untitled2.wst");
+}
+
+TEST(TilesetListNew, RefusedAfter999) {
+    Tileset_List list;
+    for (int i = 1; i <= 999; ++i) {
+        ASSERT_TRUE(list.new_tileset(6, 6));
+        if (list.count() > 1) {
+            list.make_current(list.at(0));
+            list.close_current();
+        }
+    }
+    EXPECT_EQ(list.current()->path().full, "untitled999.wst");
+    EXPECT_FALSE(list.new_tileset(6, 6));
+    EXPECT_EQ(list.current()->path().full, "untitled999.wst");
+}
+
+TEST(TilesetListNew, ZeroSizesAreRefused) {
+    Tileset_List list;
+    EXPECT_FALSE(list.new_tileset(0, 24));
+    EXPECT_FALSE(list.new_tileset(24, 0));
+    EXPECT_EQ(list.count(), 0);
+    EXPECT_EQ(list.next_untitled_number(), 1);
+}
+
+TEST(TilesetListCurrent, TitleFollowsTheCurrentTileset) {
+    Tileset_List list;
+    std::vector<std::string> titles;
+    list.set_window_title = [&](const std::string& name) { titles.push_back(name); };
+    list.new_tileset(24, 24);
+    list.new_tileset(24, 24);
+    list.current()->set_modified();
+    list.make_current(list.at(0));
+    list.current()->set_path("/tmp/forest.wst");
+    EXPECT_EQ(titles, (std::vector<std::string>{"untitled1", "untitled2", "untitled2*",
+                                                "untitled1", "forest"}));
+}
+
+TEST(TilesetListCurrent, MakeCurrentKeepsTheTilesetsCurrentTile) {
+    Tileset_List list;
+    list.new_tileset(8, 8);
+    list.current()->store().add_tile();
+    EXPECT_EQ(list.current()->store().current_index(), 1);
+    Tileset* shown = nullptr;
+    list.current_changed = [&](Tileset& t) { shown = &t; };
+    list.make_current(*list.current());
+    EXPECT_EQ(list.current()->store().current_index(), 1);
+    EXPECT_EQ(shown, list.current());
+}
+
+TEST(TilesetListClose, MiddleMakesTheFollowingCurrentLastMakesThePrevious) {
+    Tileset_List list;
+    list.new_tileset(24, 24);
+    list.new_tileset(24, 24);
+    list.new_tileset(24, 24);
+    list.make_current(list.at(1));
+    ASSERT_TRUE(list.close_current());
+    EXPECT_EQ(list.count(), 2);
+    EXPECT_EQ(list.current()->path().full, "untitled3.wst");
+    ASSERT_TRUE(list.close_current());
+    EXPECT_EQ(list.current()->path().full, "untitled1.wst");
+}
+
+TEST(TilesetListClose, TheOnlyTilesetMakesWayForAFresh24x24One) {
+    Tileset_List list;
+    list.new_tileset(40, 40);
+    ASSERT_TRUE(list.close_current());
+    ASSERT_EQ(list.count(), 1);
+    EXPECT_EQ(list.current()->path().full, "untitled2.wst");
+    EXPECT_EQ(list.current()->store().tile_width(), 24u);
+    EXPECT_EQ(list.current()->store().tile_count(), 1);
+}
+
+TEST(TilesetListClose, AModifiedTilesetIsClosedOnlyWhenConfirmed) {
+    Tileset_List list;
+    list.new_tileset(24, 24);
+    list.new_tileset(24, 24);
+    list.current()->set_modified();
+    EXPECT_FALSE(list.close_current());
+    EXPECT_EQ(list.count(), 2);
+    int asked = 0;
+    bool answer = false;
+    list.confirm_close = [&] {
+        ++asked;
+        return answer;
+    };
+    EXPECT_FALSE(list.close_current());
+    EXPECT_EQ(list.count(), 2);
+    EXPECT_TRUE(list.current()->is_modified());
+    answer = true;
+    EXPECT_TRUE(list.close_current());
+    EXPECT_EQ(list.count(), 1);
+    EXPECT_EQ(asked, 2);
+    EXPECT_TRUE(list.close_current());
+    EXPECT_EQ(asked, 2);
+}
+
+TEST(TilesetListClose, TheLastTilesetStaysWhenNoNameIsLeft) {
+    Tileset_List list;
+    for (int i = 1; i <= 999; ++i) {
+        ASSERT_TRUE(list.new_tileset(6, 6));
+        if (list.count() > 1) {
+            list.make_current(list.at(0));
+            list.close_current();
+        }
+    }
+    EXPECT_FALSE(list.close_current());
+    EXPECT_EQ(list.count(), 1);
+}
+
+TEST(TilesetListModified, AnyModifiedLooksAtEveryTileset) {
+    Tileset_List list;
+    list.new_tileset(24, 24);
+    list.new_tileset(24, 24);
+    EXPECT_FALSE(list.any_modified());
+    list.at(0).set_modified();
+    EXPECT_TRUE(list.any_modified());
+    list.destroy_all();
+    EXPECT_EQ(list.count(), 0);
+    EXPECT_EQ(list.current(), nullptr);
+    EXPECT_FALSE(list.any_modified());
+}
+
+TEST(TilesetListOpenFile, ALoadedTilesetBecomesCurrentUnnamedAndUnmodified) {
+    Scratch_Dir dir;
+    const std::string path = dir.file("forest.wst");
+    Tile_Store store(10, 12, 256);
+    store.add_tile();
+    store.add_tile();
+    ASSERT_GT(Tileset_File::write(store, path), 0);
+    Tileset_List list;
+    list.new_tileset(24, 24);
+    ASSERT_TRUE(list.open_file(path));
+    EXPECT_EQ(list.count(), 2);
+    Tileset* t = list.current();
+    EXPECT_EQ(t->path().full, path);
+    EXPECT_EQ(t->display_name(), "forest");
+    EXPECT_FALSE(t->is_named());
+    EXPECT_FALSE(t->is_modified());
+    EXPECT_EQ(t->store().tile_count(), 2);
+    EXPECT_EQ(t->store().tile_width(), 10u);
+    EXPECT_EQ(t->store().current_index(), 0);
+}
+
+TEST(TilesetListOpenFile, ARefusedFileChangesNothing) {
+    Scratch_Dir dir;
+    const std::string path = dir.file("bad.wst");
+    write_bytes(path, {'B', 'A', 'D', 0, 0, 1, 1, 1, 0, 0, 0, 0, 0, 0, 0});
+    Tileset_List list;
+    list.new_tileset(24, 24);
+    Tileset* before = list.current();
+    EXPECT_FALSE(list.open_file(path));
+    EXPECT_FALSE(list.open_file(dir.file("missing.wst")));
+    EXPECT_EQ(list.count(), 1);
+    EXPECT_EQ(list.current(), before);
+}
+
+}  // namespace

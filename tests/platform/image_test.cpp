@@ -1,0 +1,81 @@
+#include "platform/image.h"
+
+#include <gtest/gtest.h>
+
+#include <vector>
+
+#include "support/headless.h"
+#include "support/scratch_dir.h"
+
+namespace {
+// Writes a 24-bit bitmap with the given colours in a row.
+std::string write_bmp(const Temp_Dir& dir, std::initializer_list<Image::Rgba> colours) {
+    SDL_Surface* s = SDL_CreateSurface(int(colours.size()), 1, SDL_PIXELFORMAT_RGB24);
+    int x = 0;
+    for (const Image::Rgba& c : colours) SDL_WriteSurfacePixel(s, x++, 0, c.r, c.g, c.b, 255);
+    const std::string path = (dir.path / "sample.bmp").string();
+    EXPECT_TRUE(SDL_SaveBMP(s, path.c_str()));
+    SDL_DestroySurface(s);
+    return path;
+}
+}  // namespace
+
+TEST(Image, KeyColourAloneTurnsTransparentAndOutsideReadsMagenta) {
+    Temp_Dir dir;
+    const std::string path = write_bmp(dir, {{255, 0, 255, 255}, {254, 0, 255, 255}, {10, 20, 30, 255}});
+    Image keyed(path.c_str(), 512, 512, true, 255, 0, 255);
+    EXPECT_EQ(keyed.width(), 3u);  // the file's size wins over the nominal one
+    EXPECT_EQ(keyed.height(), 1u);
+    EXPECT_EQ(keyed.get_pixel(0, 0).a, 0);
+    EXPECT_EQ(keyed.get_pixel(1, 0), (Image::Rgba{254, 0, 255, 255}));
+    EXPECT_EQ(keyed.get_pixel(2, 0), (Image::Rgba{10, 20, 30, 255}));
+    EXPECT_EQ(keyed.get_pixel(-1, 0), (Image::Rgba{255, 0, 255, 255}));
+    EXPECT_EQ(keyed.get_pixel(3, 0), (Image::Rgba{255, 0, 255, 255}));
+    EXPECT_EQ(keyed.get_pixel(0, 1), (Image::Rgba{255, 0, 255, 255}));
+
+    Image plain(path.c_str(), 1, 1, false);
+    EXPECT_EQ(plain.get_pixel(0, 0), (Image::Rgba{255, 0, 255, 255}));
+}
+
+TEST(Image, BlankImagesTakeWritesInsideAndIgnoreThemOutside) {
+    Image image(4, 3);
+    image.fill(Rectangle{0, 0, 4, 3}, {1, 2, 3, 255});
+    image.set_pixel(3, 2, {200, 100, 50, 128});
+    image.set_pixel(4, 0, {9, 9, 9, 9});
+    image.set_pixel(-1, 0, {9, 9, 9, 9});
+    EXPECT_EQ(image.get_pixel(0, 0), (Image::Rgba{1, 2, 3, 255}));
+    EXPECT_EQ(image.get_pixel(3, 2), (Image::Rgba{200, 100, 50, 128}));
+
+    Image target(4, 3);
+    target.fill(Rectangle{0, 0, 4, 3}, {0, 0, 0, 255});
+    image.blit(Rectangle{3, 2, 1, 1}, target, 0, 0);
+    EXPECT_NEAR(target.get_pixel(0, 0).r, 100, 1);  // blended half onto black
+}
+
+TEST(ImageDeathTest, UnreadableFileEndsTheProgramNamingIt) {
+    EXPECT_EXIT(Image("no-such-file.bmp", 8, 8), ::testing::ExitedWithCode(1), "");
+}
+
+// A damaged header must not make SDL reserve the surface it claims before the
+// short file fails: the load is refused at once with the usual message.
+TEST(ImageDeathTest, HeaderClaimingAHugeImageIsRefusedLikeAnUnreadableFile) {
+    Temp_Dir dir;
+    const std::string path = write_bmp(dir, {{1, 2, 3, 255}, {4, 5, 6, 255}});
+    std::vector<unsigned char> bytes = read_bytes(path);
+    const std::string huge = (dir.path / "huge.bmp").string();
+    for (int side : {18, 22}) {  // width, then height as well: 1,000,000 each
+        bytes[size_t(side)] = 0x40;
+        bytes[size_t(side) + 1] = 0x42;
+        bytes[size_t(side) + 2] = 0x0F;
+    }
+    write_bytes(huge, bytes);
+    EXPECT_EXIT((send_stdout_to_stderr(), Image(huge.c_str(), 8, 8)), ::testing::ExitedWithCode(1),
+                "Error: Could not load SDL surface from %s. " + huge + "!");
+
+    // Larger than the sheet is fine while it stays within the limit.
+    SDL_Surface* wide = SDL_CreateSurface(int(Image::max_side), 1, SDL_PIXELFORMAT_RGB24);
+    const std::string wide_path = (dir.path / "wide.bmp").string();
+    ASSERT_TRUE(SDL_SaveBMP(wide, wide_path.c_str()));
+    SDL_DestroySurface(wide);
+    EXPECT_EQ(Image(wide_path.c_str(), 8, 8).width(), uint32_t(Image::max_side));
+}

@@ -1,0 +1,179 @@
+#include "platform/main_window.h"
+
+#include <gtest/gtest.h>
+
+#include <vector>
+
+#include "platform/globals.h"
+#include "platform/sprites.h"
+#include "platform/strip_layout.h"
+#include "platform/texture.h"
+#include "platform/ui_colors.h"
+#include "support/headless.h"
+#include "platform/image_pool.h"
+
+namespace {
+struct Piece {
+    int offset, source, drawn;
+    bool operator==(const Piece&) const = default;
+};
+std::vector<Piece> strip(int length, int piece) {
+    std::vector<Piece> pieces;
+    for_each_strip_piece(length, piece, [&](int o, int s, int d) { pieces.push_back({o, s, d}); });
+    return pieces;
+}
+Color sheet_pixel(int x, int y) {
+    const Image::Rgba p = g_main_window->pool().image().get_pixel(x, y);
+    return Color(p.r, p.g, p.b, p.a);
+}
+// What a sheet pixel looks like drawn over the background.
+Color drawn(int x, int y) {
+    const Color c = sheet_pixel(x, y);
+    return c.alpha == 255 ? c : Color(137, 137, 137);
+}
+}  // namespace
+
+TEST(SpriteStrip, ShortRunsAreOnePieceAndLongRunsWholeCopiesPlusARest) {
+    EXPECT_EQ(strip(16, 5), (std::vector<Piece>{{0, 5, 16}}));
+    EXPECT_EQ(strip(10, 32), (std::vector<Piece>{{0, 10, 10}}));
+    EXPECT_EQ(strip(17, 5), (std::vector<Piece>{{0, 5, 5}, {5, 5, 5}, {10, 5, 5}, {15, 2, 2}}));
+    EXPECT_EQ(strip(64, 32), (std::vector<Piece>{{0, 32, 32}, {32, 32, 32}}));
+}
+
+class MainWindow : public Headless {};
+
+TEST_F(MainWindow, TitleIsProductVersionAndName) {
+    EXPECT_STREQ(SDL_GetWindowTitle(g_main_window->window()), "Mosswick");
+    g_main_window->set_title("a");
+    EXPECT_STREQ(SDL_GetWindowTitle(g_main_window->window()), "Mosswick 0.88 - a");
+}
+
+TEST_F(MainWindow, ClearsToTheBackgroundAndBlendsFills) {
+    Main_Window& w = *g_main_window;
+    w.clear();
+    EXPECT_EQ(read_pixel(600, 300), Color(137, 137, 137));
+    w.fill_rect(Rectangle{10, 10, 5, 5}, Color(255, 0, 0, 0));
+    EXPECT_EQ(read_pixel(12, 12), Color(137, 137, 137));
+    w.fill_rect(Rectangle{10, 10, 5, 5}, Color(255, 0, 0));
+    EXPECT_EQ(read_pixel(12, 12), Color(255, 0, 0));
+    EXPECT_EQ(read_pixel(15, 12), Color(137, 137, 137));  // half-open width
+}
+
+TEST_F(MainWindow, BevelLightsAndShadesByLuminance) {
+    Main_Window& w = *g_main_window;
+    w.clear();
+    // Grey 200: luminance 0.5776, so the amount is 147.3 and the corner step 49.1.
+    w.bevel_fill(Rectangle{20, 20, 10, 8}, Color(200, 200, 200));
+    EXPECT_EQ(read_pixel(20, 20), Color(255, 255, 255));  // corner light
+    EXPECT_EQ(read_pixel(29, 20), Color(200, 200, 200));
+    EXPECT_EQ(read_pixel(20, 27), Color(200, 200, 200));
+    EXPECT_EQ(read_pixel(29, 27), Color(2, 2, 2));  // corner dark
+    EXPECT_EQ(read_pixel(25, 20), Color(255, 255, 255));
+    EXPECT_EQ(read_pixel(20, 23), Color(255, 255, 255));
+    EXPECT_EQ(read_pixel(29, 23), Color(52, 52, 52));
+    EXPECT_EQ(read_pixel(25, 27), Color(52, 52, 52));
+    EXPECT_EQ(read_pixel(25, 23), Color(200, 200, 200));  // the filled inside
+
+    w.bevel(Rectangle{40, 20, 10, 8}, Color(200, 200, 200), true);
+    EXPECT_EQ(read_pixel(45, 20), Color(52, 52, 52));
+    EXPECT_EQ(read_pixel(40, 20), Color(2, 2, 2));
+    EXPECT_EQ(read_pixel(49, 27), Color(255, 255, 255));
+    EXPECT_EQ(read_pixel(45, 27), Color(255, 255, 255));
+}
+
+TEST_F(MainWindow, FrameDarkensTopLeftLessThanBottomRight) {
+    Main_Window& w = *g_main_window;
+    w.clear();
+    w.frame(Rectangle{10, 10, 6, 6}, Color(100, 120, 140));
+    EXPECT_EQ(read_pixel(12, 10), Color(85, 105, 125));
+    EXPECT_EQ(read_pixel(10, 12), Color(85, 105, 125));
+    EXPECT_EQ(read_pixel(15, 12), Color(60, 80, 100));
+    EXPECT_EQ(read_pixel(12, 15), Color(60, 80, 100));
+    EXPECT_EQ(read_pixel(12, 12), Color(137, 137, 137));
+}
+
+TEST_F(MainWindow, DottedLinesInterleaveWithAndWithoutTheFirstStep) {
+    Main_Window& w = *g_main_window;
+    w.clear();
+    w.dotted_line(100, 50, 6, 1, 0, Color(255, 0, 0), false);
+    w.dotted_line(100, 60, 6, 0, 1, Color(0, 255, 0), true);
+    for (int i = 0; i < 8; ++i) {
+        const bool red = i < 6 && i % 2 == 0;
+        EXPECT_EQ(read_pixel(100 + i, 50) == Color(255, 0, 0), red) << i;
+        const bool green = i < 5 && i % 2 == 1;
+        EXPECT_EQ(read_pixel(100, 60 + i) == Color(0, 255, 0), green) << i;
+    }
+}
+
+TEST_F(MainWindow, PixelTexturesShowTheColoursTheyWereGiven) {
+    const Color pixels[4] = {Color(10, 20, 30), Color(200, 100, 50), Color(0, 0, 0, 0), Color(1, 2, 3)};
+    Texture* t = Texture::from_pixels(g_main_window->renderer(), pixels, 2, 2);
+    g_main_window->clear();
+    t->draw_at(300, 300);
+    EXPECT_EQ(read_pixel(300, 300), Color(10, 20, 30));
+    EXPECT_EQ(read_pixel(301, 300), Color(200, 100, 50));
+    EXPECT_EQ(read_pixel(300, 301), Color(137, 137, 137));  // transparent
+    EXPECT_EQ(read_pixel(301, 301), Color(1, 2, 3));
+    // Updates replace the pixels in place, and draw_in scales.
+    const Color changed[4] = {Color(255, 255, 0), Color(255, 255, 0), Color(255, 255, 0), Color(255, 255, 0)};
+    t->source = SDL_FRect{0, 0, 1, 1};  // showing only a part must not shrink the update
+    t->update(changed);
+    t->source = SDL_FRect{0, 0, 2, 2};
+    t->draw_in(Rectangle{310, 300, 8, 8});
+    EXPECT_EQ(read_pixel(317, 307), Color(255, 255, 0));
+    EXPECT_EQ(t->width(), 2);
+    EXPECT_EQ(t->height(), 2);
+    delete t;
+}
+
+TEST_F(MainWindow, SpritesAndEdgePiecesCopyTheSheet) {
+    Main_Window& w = *g_main_window;
+    const SDL_FRect logo = w.pool().sprite_rect(sprite_logo);
+    w.clear();
+    w.sprite(sprite_logo, 0, 0);
+    int compared = 0;
+    for (int y = 0; y < int(logo.h); y += 3)
+        for (int x = 0; x < int(logo.w); x += 3) {
+            const Color s = sheet_pixel(int(logo.x) + x, int(logo.y) + y);
+            if (s.alpha != 255) continue;
+            EXPECT_EQ(read_pixel(x, y), s);
+            ++compared;
+        }
+    EXPECT_GT(compared, 100);
+
+    // A thick selection edge, s = 8, with and without the phase shift of 2.
+    const SDL_FRect h = w.pool().sprite_rect(sprite_horiz_selector_two);
+    const SDL_FRect v = w.pool().sprite_rect(sprite_verti_selector_two);
+    w.clear();
+    w.edge_h(Edge_Kind::selection, 400, 400, 8, false);
+    w.edge_h(Edge_Kind::selection, 400, 410, 8, true);
+    w.edge_v(Edge_Kind::selection, 420, 400, 8, true);
+    for (int i = 0; i < 8; ++i) {
+        EXPECT_EQ(read_pixel(400 + i, 401), drawn(int(h.x) + i, int(h.y) + 1));
+        EXPECT_EQ(read_pixel(400 + i, 410), drawn(int(h.x) + 2 + i, int(h.y)));
+        EXPECT_EQ(read_pixel(421, 400 + i), drawn(int(v.x) + 1, int(v.y) + 2 + i));
+    }
+    EXPECT_EQ(read_pixel(408, 401), Color(137, 137, 137));  // s pixels long, no more
+    // A thin piece at s = 6.
+    const SDL_FRect thin = w.pool().sprite_rect(sprite_horiz_active_select_one);
+    w.edge_h(Edge_Kind::active_selection, 400, 420, 6, false);
+    for (int i = 0; i < 6; ++i) EXPECT_EQ(read_pixel(400 + i, 420), drawn(int(thin.x) + i, int(thin.y)));
+    EXPECT_EQ(read_pixel(400, 421), Color(137, 137, 137));
+}
+
+TEST_F(MainWindow, TextTexturesMeasureTheirText) {
+    Main_Window& w = *g_main_window;
+    EXPECT_EQ(w.text_texture(""), nullptr);
+    EXPECT_EQ(w.text_texture("\t"), nullptr);
+    Texture* one = w.text_texture("Tiles");
+    ASSERT_NE(one, nullptr);
+    EXPECT_EQ(one->width(), w.text_width("Tiles"));
+    EXPECT_EQ(one->height(), w.line_height());
+    delete one;
+    Texture* two = w.text_texture_lines("ab\rcdef");
+    ASSERT_NE(two, nullptr);
+    EXPECT_EQ(two->width(), w.text_width("cdef"));
+    EXPECT_EQ(two->height(), 2 * w.line_height());
+    delete two;
+    EXPECT_EQ(w.lines_on_screen(), 664 / 23);
+}
