@@ -72,15 +72,6 @@ TEST_F(Drawing, ALineShowsOnlyItsLastShapeWhileDragging) {
     EXPECT_EQ(on_screen(12, 2), Color());
 }
 
-TEST_F(Drawing, TheRightButtonSwapsTheShapeColours) {
-    use_tool(command_circle);
-    set_colors(red, blue);
-    stroke({{10, 10}, {13, 12}}, SDL_BUTTON_RIGHT);
-    EXPECT_EQ(tile().get_pixel(13, 10), blue);
-    EXPECT_EQ(tile().get_pixel(7, 10), blue);
-    EXPECT_EQ(tile().get_pixel(10, 10), Color());
-}
-
 TEST_F(Drawing, TheFillPaintsTheAreaAndIgnoresDragging) {
     use_tool(command_pen);
     set_colors(white, blue);
@@ -107,20 +98,6 @@ TEST_F(Drawing, TheDropperSetsTheButtonsColour) {
     EXPECT_EQ(g_editor->drawing().context().settings.left_color, red);
     // Picking changes no pixel and leaves nothing to undo.
     EXPECT_EQ(g_editor->current()->history().count(), 2);
-}
-
-TEST_F(Drawing, TheDropperCanReturnToThePreviousTool) {
-    bool returned = false;
-    Stroke_Context& c = g_editor->drawing().context();
-    c.select_previous_tool = [&returned] { returned = true; };
-    Tool_Settings kept = c.settings;
-    kept.select_previous_tool = true;
-    c.gather = [&kept] { return kept; };
-    use_tool(command_dropper);
-    stroke({{4, 4}});
-    EXPECT_TRUE(returned);
-    c.gather = nullptr;
-    c.select_previous_tool = nullptr;
 }
 
 TEST_F(Drawing, TheLightnessPenStepsAtThePress) {

@@ -65,19 +65,6 @@ protected:
     }
 };
 
-TEST_F(EditorTest, StartsWithOneUntitledTilesetShownOnTheCanvas) {
-    Editor& e = *g_editor;
-    ASSERT_EQ(e.tilesets().count(), 1);
-    EXPECT_EQ(e.current()->path().full, "untitled1.wst");
-    EXPECT_STREQ(SDL_GetWindowTitle(g_main_window->window()), "Mosswick 0.88 - untitled1");
-    EXPECT_EQ(e.canvas().tile(), e.current()->store().current_tile());
-    EXPECT_EQ(e.canvas().pixel_size(), 13);  // the pixel-size setting 10, plus 3
-    e.repaint(false);
-    // The black tile sits centred in the canvas area, framed by background.
-    EXPECT_EQ(read_pixel(264 + 256, 64 + 250), Color(0, 0, 0));
-    EXPECT_EQ(read_pixel(270, 70), Color(137, 137, 137));
-}
-
 TEST_F(EditorTest, KeysFollowTheModifierOrderAndModifiersAloneDoNothing) {
     Scripted_Chooser chooser;
     chooser.result = file_cancelled;
@@ -280,13 +267,6 @@ TEST_F(EditorTest, TabsMakeTheirTilesetCurrentAndCloseFollowsTheListRules) {
     ASSERT_EQ(e.tilesets().count(), 2);
     EXPECT_EQ(e.current()->path().full, "untitled3.wst");  // the one that followed
     EXPECT_EQ(e.canvas().tile()->width(), 32);
-}
-
-TEST_F(EditorTest, NumbersOutsideTheTableAreNoCommandAndOpenNothing) {
-    Event_Script script;  // any box opened now would run out of steps
-    EXPECT_EQ(g_editor->execute(command_count), -1);
-    EXPECT_EQ(g_editor->execute(-1), -1);
-    EXPECT_FALSE(script.ran_out());
 }
 
 TEST(FileDialog, SaveKindsForceTheirExtensionAndOpenKindsKeepTheName) {

@@ -38,20 +38,6 @@ protected:
     }
 };
 
-TEST_F(NavigationTest, EveryTilesetHasItsPaneAndStripAtTheBottom) {
-    ASSERT_NE(tileset().navigation(), nullptr);
-    EXPECT_EQ(tileset().strip().area(), (Rectangle{4, 636, 1224, 24}));
-    // The pane sits below the canvas, clear of the left column and the readout.
-    const Rectangle outer = pane().outer_area();
-    EXPECT_GE(outer.x, Editor::canvas_area.x);
-    EXPECT_LE(outer.x + outer.width, Editor::canvas_area.x + Editor::canvas_area.width);
-    EXPECT_GE(outer.y, Editor::canvas_area.y + Editor::canvas_area.height);
-    EXPECT_LE(outer.y + outer.height, strip_y);
-    g_editor->tilesets().new_tileset(16, 16);
-    EXPECT_NE(g_editor->current()->navigation(), nullptr);
-    EXPECT_EQ(g_editor->current()->strip().area().y, strip_y);
-}
-
 TEST_F(NavigationTest, ClickOnACellSelectsTheTileAndUndoReturns) {
     add_tiles(9);
     const int records = tileset().history().count();
@@ -68,17 +54,6 @@ TEST_F(NavigationTest, ClickOnACellSelectsTheTileAndUndoReturns) {
     pump();
     EXPECT_EQ(store().current_index(), 0);
     EXPECT_EQ(g_editor->canvas().tile(), store().tile_at(0));
-}
-
-TEST_F(NavigationTest, ClickRightOfTheLastTileSelectsNothing) {
-    add_tiles(4);
-    g_editor->run_command(command_next_tile);
-    const int records = tileset().history().count();
-    push_click(cell_centre_x(5), cell_centre_y);
-    push_click(cell_centre_x(40), cell_centre_y);
-    pump();
-    EXPECT_EQ(store().current_index(), 1);
-    EXPECT_EQ(tileset().history().count(), records);
 }
 
 TEST_F(NavigationTest, StripKeysPageSixtyTiles) {
@@ -120,16 +95,6 @@ TEST_F(NavigationTest, ButtonsRunTheirCommands) {
     EXPECT_EQ(store().current_index(), 59);
 }
 
-TEST_F(NavigationTest, TheNumberBoxScrollsBackToTheCurrentTile) {
-    add_tiles(59);
-    click_button(5);
-    ASSERT_EQ(tileset().strip().first(), 46);
-    const int records = tileset().history().count();
-    click_button(Tile_Navigation_Pane::id_box);
-    EXPECT_EQ(tileset().strip().first(), 0);
-    EXPECT_EQ(tileset().history().count(), records);
-}
-
 TEST_F(NavigationTest, ButtonsThatCannotActAreGreyAndDoNothing) {
     Tile_Navigation_Pane& p = pane();
     for (int b = 0; b < Tile_Navigation_Pane::button_count; ++b) {
@@ -150,25 +115,6 @@ TEST_F(NavigationTest, ButtonsThatCannotActAreGreyAndDoNothing) {
     EXPECT_EQ(tileset().history().count(), records);
 }
 
-TEST_F(NavigationTest, AButtonLooksPressedUntilTheRelease) {
-    add_tiles(3);
-    const Rectangle r = pane().button_area(4);
-    push_button(r.x + 5, r.y + 5, true);
-    pump();
-    EXPECT_EQ(pane().pressed_button(), 4);
-    g_editor->repaint(false);
-    const SDL_FRect& down = g_main_window->pool().sprite_rect(sprite_next_tile_pressed);
-    const SDL_FRect& up = g_main_window->pool().sprite_rect(sprite_next_tile_depressed);
-    const Image& sheet = g_main_window->pool().image();
-    // The pressed and raised looks differ in their top-left corner.
-    const Image::Rgba pressed_corner = sheet.get_pixel(int(down.x) + 1, int(down.y) + 1);
-    ASSERT_NE(pressed_corner, sheet.get_pixel(int(up.x) + 1, int(up.y) + 1));
-    EXPECT_EQ(read_pixel(r.x + 1, r.y + 1), Color(pressed_corner.r, pressed_corner.g, pressed_corner.b));
-    push_button(r.x + 5, r.y + 5, false);
-    pump();
-    EXPECT_EQ(pane().pressed_button(), -1);
-}
-
 TEST_F(NavigationTest, TheStripShowsTheTilesAndMarksTheCurrentOne) {
     add_tiles(5);
     Tile& red = *store().tile_at(3);
@@ -183,12 +129,4 @@ TEST_F(NavigationTest, TheStripShowsTheTilesAndMarksTheCurrentOne) {
     const Image::Rgba edge = g_main_window->pool().image().get_pixel(int(marker.x) + 2, int(marker.y) + 2);
     EXPECT_EQ(read_pixel(4 + 2 * 24 + 2, strip_y + 2), Color(edge.r, edge.g, edge.b));
     EXPECT_NE(read_pixel(4 + 3 * 24 + 2, strip_y + 2), Color(edge.r, edge.g, edge.b));
-}
-
-TEST_F(NavigationTest, ANewTileScrollsTheStripToIt) {
-    add_tiles(70);
-    ASSERT_EQ(tileset().strip().first(), 0);
-    g_editor->run_command(command_add_new_tile);
-    EXPECT_EQ(store().current_index(), 71);
-    EXPECT_EQ(tileset().strip().first(), 21);
 }

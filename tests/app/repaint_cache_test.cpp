@@ -48,18 +48,6 @@ TEST_F(RepaintCache, ATranslucentPaletteColourIsBlendedOverTheCellBackground) {
     EXPECT_EQ(read_pixel(p.x, p.y), Color(1, 2, 3));
 }
 
-TEST_F(RepaintCache, ShowingAnotherPageShowsItsColours) {
-    ASSERT_GT(g_palette->page_count(), 1);
-    const SDL_Point p = cell_centre(0);
-    g_palette->set_color(1, 0, Color(90, 10, 10));
-    g_palette->set_color(0, 0, Color(10, 90, 10));
-    g_editor->repaint(false);
-    EXPECT_EQ(read_pixel(p.x, p.y), Color(10, 90, 10));
-    palette().show_page(1);
-    g_editor->repaint(false);
-    EXPECT_EQ(read_pixel(p.x, p.y), Color(90, 10, 10));
-}
-
 TEST_F(RepaintCache, TheBrushButtonsFollowTheCurrentShapeAndSize) {
     Brush_Selector& b = g_tool_options->brushes();
     // A point of each button's face that no brush and no bevel covers.
@@ -74,28 +62,4 @@ TEST_F(RepaintCache, TheBrushButtonsFollowTheCurrentShapeAndSize) {
     EXPECT_EQ(face(b.size_button(3)), ui_colors[ui_dark_grey]);
     EXPECT_EQ(face(b.shape_button(2)), ui_colors[ui_dark_grey]);
     EXPECT_EQ(face(b.shape_button(0)), ui_colors[ui_grey_112]);
-}
-
-TEST_F(RepaintCache, TheSizeButtonsShowTheCurrentShape) {
-    Brush_Selector& b = g_tool_options->brushes();
-    const Built_In_Brushes all;
-    const Brush& round = all.get(0, 6);
-    const Brush& other = all.get(2, 6);
-    int x = 0;
-    int y = 0;
-    while (round.is_set(x, y) == other.is_set(x, y)) {
-        if (++x == 6) {
-            x = 0;
-            ASSERT_LT(++y, 6);
-        }
-    }
-    // The 6-pixel brush lies 3 pixels inside its button, 2 x 2 screen pixels a brush pixel.
-    const Rectangle six = b.size_button(6);
-    auto shown = [&](const Brush& brush) { return brush.is_set(x, y) ? Color(200, 200, 200) : ui_colors[ui_grey_112]; };
-    b.set_brush(0, 1);
-    g_editor->repaint(false);
-    EXPECT_EQ(read_pixel(six.x + 3 + 2 * x, six.y + 3 + 2 * y), shown(round));
-    b.set_brush(2, 1);
-    g_editor->repaint(false);
-    EXPECT_EQ(read_pixel(six.x + 3 + 2 * x + 1, six.y + 3 + 2 * y + 1), shown(other));
 }

@@ -44,18 +44,6 @@ TEST_F(Drawing, TheStampsRightButtonUsesTheSecondColourAlongTheDrag) {
     EXPECT_EQ(tile().get_pixel(5, 7), black);
 }
 
-TEST_F(Drawing, TheStampLeavesTheBrushesClearPixelsAlone) {
-    use_tool(command_pen);
-    set_colors(red, blue);
-    stroke({{8, 8}});
-    use_tool(command_stamp_brush);
-    g_tool_options->select_brush(5, 3);  // the ring: its middle is clear
-    stroke({{8, 8}});
-    EXPECT_EQ(tile().get_pixel(8, 8), red);
-    EXPECT_EQ(tile().get_pixel(8, 7), white);
-    EXPECT_EQ(tile().get_pixel(7, 7), black);
-}
-
 TEST_F(Drawing, TheStampInPatternModeRepeatsFromTheTilesCorner) {
     use_tool(command_stamp_brush);
     Fixed_Settings fixed;
@@ -125,19 +113,4 @@ TEST_F(Drawing, TheSmudgeCarriesWhatItsBrushCovers) {
         EXPECT_EQ(tile().get_pixel(5, y), black) << y;
     }
     EXPECT_EQ(tile().get_pixel(4, 1), black);
-}
-
-TEST_F(Drawing, TheSmudgeStaysInTheSelection) {
-    use_tool(command_pen);
-    set_colors(white, blue);
-    stroke({{2, 3}});
-    use_tool(command_smudge_brush);
-    Fixed_Settings fixed;
-    fixed.kept.smudge_strength = 256;
-    Canvas_View& view = g_editor->canvas();
-    for (int x = 0; x < 4; ++x) view.selection()->set_pixel(x, 3, white);
-    view.set_has_selection(true);
-    stroke({{2, 3}, {7, 3}});
-    EXPECT_EQ(tile().get_pixel(3, 3), white);
-    for (int x = 4; x <= 7; ++x) EXPECT_EQ(tile().get_pixel(x, 3), black) << x;
 }

@@ -37,15 +37,6 @@ TEST_F(ToolOptions, ToolsShowTheirPagesAndRememberThePreviousTool) {
     EXPECT_EQ(g_editor->current_tool(), command_work_selection);
 }
 
-TEST_F(ToolOptions, DefaultsOfTheChoicesAndTicks) {
-    const Tool_Options_Pane& t = *g_tool_options;
-    EXPECT_EQ(t.speed(), 3);
-    EXPECT_EQ(t.right_button_mode(), 0);
-    EXPECT_EQ(t.rectangle_type(), 0);
-    EXPECT_FALSE(t.size_compensation());
-    EXPECT_FALSE(t.select_previous_tool());
-}
-
 TEST_F(ToolOptions, RowsTakeClicksOnTheirPagesAndTheHiddenRightButtonRowToo) {
     g_editor->run_command(command_lightness_pen);
     press_row(tool_pages::row_speed);
@@ -70,17 +61,4 @@ TEST_F(ToolOptions, FilledShapeButtonsChooseTheShapeToolFilled) {
     g_editor->run_command(command_filled_circle);
     EXPECT_EQ(g_editor->current_tool(), command_circle);
     EXPECT_EQ(g_tool_options->ellipse_type(), 1);
-}
-
-TEST_F(ToolOptions, ReadoutsKeepWhatTheToolsWrite) {
-    g_tool_options->set_size(3, 4);
-    g_tool_options->set_length(9);
-    auto& size = static_cast<const Location_Info&>(g_tool_options->row(tool_pages::row_size));
-    EXPECT_EQ(size.first(), 3);
-    EXPECT_EQ(size.second(), 4);
-    EXPECT_EQ(static_cast<const Number_Info&>(g_tool_options->row(tool_pages::row_length)).value(), 9);
-    EXPECT_EQ(size.outer_area().width, Tool_Options_Pane::row_width);
-    // The panes do not overlap: the pad lies right of the rows' column.
-    const Rectangle pad_left{g_tool_options->outer_area().x + Tool_Options_Pane::pad_offset, 0, 1, 1};
-    EXPECT_LE(g_tool_options->client_area().x + Tool_Options_Pane::row_width, pad_left.x);
 }

@@ -75,24 +75,6 @@ TEST_F(Drawing, UndoOfNextTileReturnsToTheEarlierTile) {
     EXPECT_EQ(store.current_index(), 1);
 }
 
-TEST_F(Drawing, UndoRestoresTheSelectionOrDeselects) {
-    use_tool(command_pen);
-    set_colors(red, blue);
-    Canvas_View& view = g_editor->canvas();
-    view.selection()->set_pixel(4, 4, white);
-    view.set_has_selection(true);
-    stroke({{4, 4}});  // recorded with the selection
-    view.reset_selection();
-    stroke({{5, 5}});  // recorded without one
-    stroke({{6, 6}});
-    key(SDLK_Z, SDL_KMOD_CTRL);
-    EXPECT_FALSE(view.has_selection());
-    key(SDLK_Z, SDL_KMOD_CTRL);
-    EXPECT_TRUE(view.has_selection());
-    EXPECT_TRUE(view.selection()->is_white(4, 4));
-    EXPECT_FALSE(view.selection()->is_white(5, 5));
-}
-
 TEST_F(Drawing, UndoOfAScrollRunsTheOppositeScroll) {
     use_tool(command_pen);
     set_colors(red, blue);

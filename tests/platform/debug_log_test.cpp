@@ -25,12 +25,6 @@ TEST(DebugLog, NumbersLinesMarksWarningsAndKeepsOnlyWhatFits) {
     EXPECT_EQ(log.counter(), 100u);
 }
 
-TEST(DebugLog, CutsFormattedTextToTheLineBuffer) {
-    Debug_Log log(27);
-    log.log("%s", std::string(300, 'x').c_str());
-    EXPECT_EQ(log.lines()[0], "0: " + std::string(Debug_Log::line_buffer_size - 1, 'x'));
-}
-
 class DebugMonitor : public Headless {};
 
 TEST_F(DebugMonitor, ShowsTheLinesUntilAKeyAndClearsTheWarning) {
@@ -49,12 +43,4 @@ TEST_F(DebugMonitor, ShowsTheLinesUntilAKeyAndClearsTheWarning) {
     // The key was consumed and the queue flushed.
     SDL_Event e;
     EXPECT_FALSE(SDL_PollEvent(&e));
-}
-
-TEST_F(DebugMonitor, AlsoEndsOnACloseRequest) {
-    Debug_Log log(27);
-    log.warn("x");
-    push_close_request();
-    log.show(*g_main_window);
-    EXPECT_FALSE(log.has_warning());
 }

@@ -37,21 +37,6 @@ TEST(Image, KeyColourAloneTurnsTransparentAndOutsideReadsMagenta) {
     EXPECT_EQ(plain.get_pixel(0, 0), (Image::Rgba{255, 0, 255, 255}));
 }
 
-TEST(Image, BlankImagesTakeWritesInsideAndIgnoreThemOutside) {
-    Image image(4, 3);
-    image.fill(Rectangle{0, 0, 4, 3}, {1, 2, 3, 255});
-    image.set_pixel(3, 2, {200, 100, 50, 128});
-    image.set_pixel(4, 0, {9, 9, 9, 9});
-    image.set_pixel(-1, 0, {9, 9, 9, 9});
-    EXPECT_EQ(image.get_pixel(0, 0), (Image::Rgba{1, 2, 3, 255}));
-    EXPECT_EQ(image.get_pixel(3, 2), (Image::Rgba{200, 100, 50, 128}));
-
-    Image target(4, 3);
-    target.fill(Rectangle{0, 0, 4, 3}, {0, 0, 0, 255});
-    image.blit(Rectangle{3, 2, 1, 1}, target, 0, 0);
-    EXPECT_NEAR(target.get_pixel(0, 0).r, 100, 1);  // blended half onto black
-}
-
 TEST(ImageDeathTest, UnreadableFileEndsTheProgramNamingIt) {
     EXPECT_EXIT(Image("no-such-file.bmp", 8, 8), ::testing::ExitedWithCode(1), "");
 }

@@ -13,15 +13,6 @@
 #include "platform/image_pool.h"
 
 namespace {
-struct Piece {
-    int offset, source, drawn;
-    bool operator==(const Piece&) const = default;
-};
-std::vector<Piece> strip(int length, int piece) {
-    std::vector<Piece> pieces;
-    for_each_strip_piece(length, piece, [&](int o, int s, int d) { pieces.push_back({o, s, d}); });
-    return pieces;
-}
 Color sheet_pixel(int x, int y) {
     const Image::Rgba p = g_main_window->pool().image().get_pixel(x, y);
     return Color(p.r, p.g, p.b, p.a);
@@ -33,20 +24,7 @@ Color drawn(int x, int y) {
 }
 }  // namespace
 
-TEST(SpriteStrip, ShortRunsAreOnePieceAndLongRunsWholeCopiesPlusARest) {
-    EXPECT_EQ(strip(16, 5), (std::vector<Piece>{{0, 5, 16}}));
-    EXPECT_EQ(strip(10, 32), (std::vector<Piece>{{0, 10, 10}}));
-    EXPECT_EQ(strip(17, 5), (std::vector<Piece>{{0, 5, 5}, {5, 5, 5}, {10, 5, 5}, {15, 2, 2}}));
-    EXPECT_EQ(strip(64, 32), (std::vector<Piece>{{0, 32, 32}, {32, 32, 32}}));
-}
-
 class MainWindow : public Headless {};
-
-TEST_F(MainWindow, TitleIsProductVersionAndName) {
-    EXPECT_STREQ(SDL_GetWindowTitle(g_main_window->window()), "Mosswick");
-    g_main_window->set_title("a");
-    EXPECT_STREQ(SDL_GetWindowTitle(g_main_window->window()), "Mosswick 0.88 - a");
-}
 
 TEST_F(MainWindow, ClearsToTheBackgroundAndBlendsFills) {
     Main_Window& w = *g_main_window;
@@ -90,19 +68,6 @@ TEST_F(MainWindow, FrameDarkensTopLeftLessThanBottomRight) {
     EXPECT_EQ(read_pixel(15, 12), Color(60, 80, 100));
     EXPECT_EQ(read_pixel(12, 15), Color(60, 80, 100));
     EXPECT_EQ(read_pixel(12, 12), Color(137, 137, 137));
-}
-
-TEST_F(MainWindow, DottedLinesInterleaveWithAndWithoutTheFirstStep) {
-    Main_Window& w = *g_main_window;
-    w.clear();
-    w.dotted_line(100, 50, 6, 1, 0, Color(255, 0, 0), false);
-    w.dotted_line(100, 60, 6, 0, 1, Color(0, 255, 0), true);
-    for (int i = 0; i < 8; ++i) {
-        const bool red = i < 6 && i % 2 == 0;
-        EXPECT_EQ(read_pixel(100 + i, 50) == Color(255, 0, 0), red) << i;
-        const bool green = i < 5 && i % 2 == 1;
-        EXPECT_EQ(read_pixel(100, 60 + i) == Color(0, 255, 0), green) << i;
-    }
 }
 
 TEST_F(MainWindow, PixelTexturesShowTheColoursTheyWereGiven) {
@@ -159,21 +124,4 @@ TEST_F(MainWindow, SpritesAndEdgePiecesCopyTheSheet) {
     w.edge_h(Edge_Kind::active_selection, 400, 420, 6, false);
     for (int i = 0; i < 6; ++i) EXPECT_EQ(read_pixel(400 + i, 420), drawn(int(thin.x) + i, int(thin.y)));
     EXPECT_EQ(read_pixel(400, 421), Color(137, 137, 137));
-}
-
-TEST_F(MainWindow, TextTexturesMeasureTheirText) {
-    Main_Window& w = *g_main_window;
-    EXPECT_EQ(w.text_texture(""), nullptr);
-    EXPECT_EQ(w.text_texture("\t"), nullptr);
-    Texture* one = w.text_texture("Tiles");
-    ASSERT_NE(one, nullptr);
-    EXPECT_EQ(one->width(), w.text_width("Tiles"));
-    EXPECT_EQ(one->height(), w.line_height());
-    delete one;
-    Texture* two = w.text_texture_lines("ab\rcdef");
-    ASSERT_NE(two, nullptr);
-    EXPECT_EQ(two->width(), w.text_width("cdef"));
-    EXPECT_EQ(two->height(), 2 * w.line_height());
-    delete two;
-    EXPECT_EQ(w.lines_on_screen(), 664 / 23);
 }

@@ -21,28 +21,7 @@ std::vector<char> read_all(const std::filesystem::path& path)
     return {std::istreambuf_iterator<char>(in), std::istreambuf_iterator<char>()};
 }
 
-std::uint32_t little_endian(const std::vector<char>& bytes, std::size_t at, int count)
-{
-    std::uint32_t value = 0;
-    for (int i = count - 1; i >= 0; --i)
-        value = value << 8 | static_cast<unsigned char>(bytes[at + i]);
-    return value;
-}
-
 }  // namespace
-
-TEST(PoolGenerator, CommittedSheetIs512By512Uncompressed24Bit)
-{
-    const std::vector<char> sheet = read_all(std::filesystem::path(MOSSWICK_SOURCE_DIR) / "data" / "pool.bmp");
-    ASSERT_GE(sheet.size(), 54u);
-    EXPECT_EQ(sheet[0], 'B');
-    EXPECT_EQ(sheet[1], 'M');
-    EXPECT_EQ(little_endian(sheet, 18, 4), 512u);  // width
-    EXPECT_EQ(little_endian(sheet, 22, 4), 512u);  // height, bottom-up
-    EXPECT_EQ(little_endian(sheet, 28, 2), 24u);   // bits per pixel
-    EXPECT_EQ(little_endian(sheet, 30, 4), 0u);    // no compression
-    EXPECT_EQ(sheet.size(), 54u + 512u * 512u * 3u);
-}
 
 #ifdef MOSSWICK_MAKE_POOL
 TEST(PoolGenerator, RegeneratesTheCommittedSheetByteForByte)

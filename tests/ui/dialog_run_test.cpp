@@ -122,33 +122,6 @@ TEST_F(DialogRun, StepsWrapAroundAndTicksToggle) {
     EXPECT_EQ(d->value_of(40), 1);
 }
 
-TEST_F(DialogRun, APressOutsideEveryRowDeliversNothing) {
-    auto d = make_dialog();
-    const Rectangle frame = d->pane().outer_area();
-    Event_Script script;
-    script.then([&] { push_click(frame.x + frame.width - 2, frame.y + 30); })
-        .then([] { push_click(5, 5); })
-        .then([] { push_key(27); });
-    EXPECT_FALSE(d->run());
-    EXPECT_EQ(d->result(), (Dialog_Event{item_unknown, -1}));
-    EXPECT_EQ(d->value_of(91), 20);
-    EXPECT_EQ(d->value_of(31), 0);
-    EXPECT_EQ(d->value_of(40), 0);
-}
-
-TEST_F(DialogRun, AcceptWithATargetThatIsNoItemStillEnds) {
-    Dialog d("Odd");
-    d.add_text("text");
-    auto row = std::make_unique<Dialog_Row>();
-    row->add(std::make_unique<Button_Dialog_Item>(7, 12345, button_ok));
-    d.add_row(std::move(row));
-    d.finish(false);
-    Event_Script script;
-    script.then([&] { click_item(d, 7); });
-    EXPECT_TRUE(d.run());
-    EXPECT_EQ(d.result(), (Dialog_Event{item_accept, 12345}));
-}
-
 TEST_F(DialogRun, RadioGroupsKeepExactlyOneChoice) {
     auto group = std::make_shared<Radio_Group>();
     Dialog d("Radio");

@@ -49,29 +49,6 @@ TEST_F(MessageBoxTest, TheQuestionIsAnsweredByOkOrCancel) {
     EXPECT_FALSE(g_message_box->ask("Quit", "Quit Mosswick?"));
 }
 
-TEST_F(MessageBoxTest, AboutNamesVersionWindowSizeAndRenderer) {
-    const std::string expected = std::string("    \rVersion 0.88\r\rFreeware\r1232 x 664 window size\rRenderer: ") +
-                                 g_main_window->renderer_name();
-    EXPECT_EQ(Message_Box::about_text(), expected);
-    SDL_SetWindowSize(g_main_window->window(), 900, 500);
-    SDL_SyncWindow(g_main_window->window());
-    int w = 0;
-    int h = 0;
-    SDL_GetWindowSize(g_main_window->window(), &w, &h);
-    EXPECT_NE(Message_Box::about_text().find(std::to_string(w) + " x " + std::to_string(h) + " window size"),
-              std::string::npos);
-    SDL_SetWindowSize(g_main_window->window(), 1232, 664);
-    SDL_SyncWindow(g_main_window->window());
-
-    Event_Script script;
-    script.then([] { push_key(13); });
-    g_message_box->show_about();
-    EXPECT_FALSE(script.ran_out());
-    // The logo stands in the first row of the box, above the text.
-    const SDL_FRect& logo = g_main_window->pool().sprite_rect(sprite_logo);
-    EXPECT_GT(logo.w, 0);
-}
-
 TEST_F(MessageBoxTest, BoxesDrawOverWhatLiesBehindThem) {
     int behind = 0;
     // A base paints the whole window, as the editor's frame does.

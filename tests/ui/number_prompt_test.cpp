@@ -71,16 +71,6 @@ TEST_F(NumberPrompt, AnEntryOutsideTheBoundsIsRefusedVisibly) {
     EXPECT_EQ(read_pixel(corner_x, corner_y), prompt_refused_color);
 }
 
-TEST_F(NumberPrompt, APressOutsideTheBoxCancels) {
-    Event_Script script;
-    script.then([] {
-        type("9");
-        push_click(10, 10);
-    });
-    EXPECT_EQ(Number_Prompt::ask(300, 300, 5, 0, 20), std::nullopt);
-    EXPECT_EQ(read_pixel(300 - 4 + 147, 300 - 4 + 54), pane_body_color);
-}
-
 TEST_F(NumberPrompt, APressOnANumberItemOpensThePromptInsideTheDialog) {
     Dialog d("Numbers");
     d.add_number_row(10, 4, 0, 99, "Value:");

@@ -68,18 +68,6 @@ TEST_F(OptionsTest, AcceptWritesTheWholeDialogAndEditReloads) {
     EXPECT_EQ(again.dialog().value_of(91), 64);
 }
 
-TEST_F(OptionsTest, MoreOnTheLastCloneStyleShowsTheFirst) {
-    Options options;
-    auto* list = static_cast<Textlist_Dialog_Item*>(options.dialog().find(131));
-    list->choice.value = 2;
-    EXPECT_STREQ(list->current(), "Resize clone to current size");
-    Event_Script script;
-    script.then([&] { click_item(options, 130); }).then([] { push_key(13); });
-    EXPECT_TRUE(options.edit());
-    EXPECT_STREQ(list->current(), "Center clone to image");
-    EXPECT_EQ(options.get(Options::clone_style), 0);
-}
-
 TEST_F(OptionsTest, OddFilesLoadIntegerByInteger) {
     // Length 0: nothing is loaded.
     write_file(std::string(4, '\0'));

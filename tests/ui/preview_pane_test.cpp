@@ -9,14 +9,6 @@
 #include "ui/message_box.h"
 #include "ui/ui_globals.h"
 
-TEST(PreviewRepeats, AreReducedSoThatTheRepeatsStayWithinTheBody) {
-    EXPECT_EQ(Preview_Pane::repeat_count(2, 64), 2);
-    EXPECT_EQ(Preview_Pane::repeat_count(5, 64), 3);
-    EXPECT_EQ(Preview_Pane::repeat_count(21, 6), 21);
-    EXPECT_EQ(Preview_Pane::repeat_count(21, 24), 8);
-    EXPECT_EQ(Preview_Pane::repeat_count(1, 64), 1);
-}
-
 class PreviewTest : public Drawing {};
 
 TEST_F(PreviewTest, AStrokeShowsInEveryRepeatAtOnceAndAPointerMoveLeavesItAlone) {

@@ -40,12 +40,3 @@ TEST_F(SettingPanes, EachPaneHoldsOneRowAndStepsItsValue) {
     EXPECT_EQ(number.container().rows()[0]->area.y, number.get_area().y - 2);
     EXPECT_EQ(number.container().find(140)->area.y, number.get_area().y);
 }
-
-TEST_F(SettingPanes, TwoTilesStandSideBySide) {
-    Tile left(8, 6);
-    Tile right(10, 12);
-    Doubletile_Dialog_Item pair(1, 2, left, right);
-    EXPECT_EQ(pair.area.width, 8 + Doubletile_Dialog_Item::gap + 10);
-    EXPECT_EQ(pair.area.height, 12);
-    EXPECT_EQ(pair.get_value(), -1);
-}

@@ -36,13 +36,6 @@ protected:
 };
 }  // namespace
 
-TEST_F(ColorEditorTest, EntriesAreSortedBrightestFirst) {
-    const auto& list = editor().entries();
-    ASSERT_EQ(list.size(), 24u);
-    for (size_t i = 1; i < list.size(); ++i) EXPECT_GE(luminance(list[i - 1].color), luminance(list[i].color));
-    EXPECT_STREQ(list.back().name, "Black");
-}
-
 TEST_F(ColorEditorTest, HoveringPinkShowsItsReadoutAndEscapeKeepsTheToolColours) {
     const int pink = swatch_of("Pink");
     ASSERT_GE(pink, 0);

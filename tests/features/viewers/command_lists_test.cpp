@@ -11,22 +11,6 @@
 #include "ui/event_script.h"
 #include "platform/text_writer.h"
 
-TEST(KeyboardList, ListsEveryKeyedCommandOnceInTableOrderAcrossTwoColumns) {
-    const std::vector<Keyboard_Line> lines = keyboard_lines(10);
-    int keyed = 0;
-    for (int c = 0; c < command_count; ++c) keyed += commands::has_key(c);
-    ASSERT_EQ(int(lines.size()), keyed);
-    for (size_t i = 0; i < lines.size(); ++i) {
-        EXPECT_TRUE(commands::has_key(lines[i].command)) << commands::name(lines[i].command);
-        if (i > 0) {
-            EXPECT_GT(lines[i].command, lines[i - 1].command);
-        }
-        // The first column is full before the second starts, which runs on without limit.
-        EXPECT_EQ(lines[i].column, i < 10 ? 0 : 1);
-        EXPECT_EQ(lines[i].line, int(i < 10 ? i : i - 10));
-    }
-}
-
 class CommandListsTest : public Editor_Fixture {};
 
 TEST_F(CommandListsTest, RowsWithoutAKeyDrawNothingAndTheListsOpenFromKeyAndCommand) {

@@ -14,15 +14,6 @@ TEST(ColorDatabase, NamesExactColoursOnly) {
     EXPECT_STREQ(db.name_of(Color(1, 2, 3)), "---");
 }
 
-TEST(ColorDatabase, EntriesComeInTableOrderWithoutTheTerminator) {
-    const Color_Database db;
-    std::vector<Named_Color> list;
-    db.entries_into(list);
-    ASSERT_EQ(list.size(), 24u);
-    EXPECT_STREQ(list.front().name, "Red");
-    EXPECT_STREQ(list.back().name, "Cadmium green");
-}
-
 TEST(ColorDatabaseDeathTest, ADuplicateColourEndsTheProgram) {
     static const Named_Color twice[] = {
         {Color(1, 2, 3), "One"}, {Color(1, 2, 3), "Again"}, {Color(), "$$$"}};

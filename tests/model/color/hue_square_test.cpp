@@ -23,16 +23,6 @@ TEST(HueSquare, CornersAreWhiteTheHueAndBlack) {
     }
 }
 
-TEST(HueSquare, StripBandsStepByTwoPerRow) {
-    std::vector<Color> strip(strip_width * side);
-    build_strip(strip.data());
-    EXPECT_EQ(strip[0], Color(255, 0, 0));
-    EXPECT_EQ(strip[size_t(strip_width + 0)], Color(255, 0, 2));
-    EXPECT_EQ(strip[size_t(5 * band_width)], Color(255, 255, 0));
-    EXPECT_EQ(strip[size_t(127 * strip_width + 5 * band_width)], Color(255, 1, 0));
-    EXPECT_EQ(strip[size_t(127 * strip_width + 0)], Color(255, 0, 254));
-}
-
 TEST(ChannelHandles, SmallStepsClampAndFractionsFollowTheTrack) {
     Channel_Handles h;
     h.set(Color(250, 0, 128, 255));

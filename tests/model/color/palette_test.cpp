@@ -25,30 +25,6 @@ std::string stored_text(const std::string& path) {
     return std::string(bytes.begin() + 4, bytes.end());
 }
 
-TEST(PaletteBuiltIn, MissingFileGivesThreePagesOf32) {
-    Scratch_Dir dir;
-    Palette palette(dir.file("palette.dat"));
-    ASSERT_EQ(palette.page_count(), 3);
-    EXPECT_EQ(palette.name(0), "Default");
-    EXPECT_EQ(palette.name(1), "EGA");
-    EXPECT_EQ(palette.name(2), "MSX");
-    for (int page = 0; page < 3; ++page) {
-        EXPECT_EQ(palette.count(page), 32);
-        for (int i = 0; i < 32; ++i) EXPECT_EQ(palette.color(page, i).alpha, 255);
-    }
-    // The deliberate quirks: MSX's second entry is not black, the short pages are padded.
-    EXPECT_EQ(palette.color(2, 1), Color(1, 1, 1));
-    EXPECT_EQ(palette.color(1, 16), Color(0, 0, 0));
-    EXPECT_FALSE(palette.dirty());
-}
-
-TEST(PaletteWriting, UnchangedPaletteWritesNoFile) {
-    Scratch_Dir dir;
-    const std::string path = dir.file("palette.dat");
-    { Palette palette(path); }
-    EXPECT_FALSE(std::filesystem::exists(path));
-}
-
 TEST(PaletteWriting, ChangedPaletteWritesEveryPageAsTokens) {
     Scratch_Dir dir;
     const std::string path = dir.file("palette.dat");
@@ -123,45 +99,6 @@ TEST(PaletteWriting, EmptyNameBecomesRolololo) {
         EXPECT_EQ(palette.name(0), "Rolololo");
     }
     EXPECT_EQ(stored_text(path), "1,2,0,0,0,255,5,6,7,255,Rolololo,:");
-}
-
-TEST(PaletteWriting, UnopenableFileIsSilentlySkipped) {
-    Scratch_Dir dir;
-    const std::string path = dir.file("missing_dir/palette.dat");
-    {
-        Palette palette(path);
-        palette.set_color(0, 0, Color(1, 1, 1));
-        EXPECT_FALSE(palette.write());
-    }
-    EXPECT_FALSE(std::filesystem::exists(path));
-}
-
-TEST(PaletteReading, EmptyTextGivesNoPages) {
-    Scratch_Dir dir;
-    const std::string path = dir.file("palette.dat");
-    write_palette_file(path, "");
-    Palette palette(path);
-    EXPECT_EQ(palette.page_count(), 0);
-}
-
-TEST(PaletteReading, NegativePageCountGivesNoPages) {
-    Scratch_Dir dir;
-    const std::string path = dir.file("palette.dat");
-    write_palette_file(path, "-4,1,a:");
-    Palette palette(path);
-    EXPECT_EQ(palette.page_count(), 0);
-}
-
-TEST(PaletteReading, MissingColonAndTextEndingInsideATokenStopAtTheEnd) {
-    Scratch_Dir dir;
-    const std::string path = dir.file("palette.dat");
-    write_palette_file(path, "2,3,Warm");
-    Palette palette(path);
-    ASSERT_EQ(palette.page_count(), 2);
-    EXPECT_EQ(palette.count(0), 3);
-    EXPECT_EQ(palette.name(0), "Warm");
-    EXPECT_EQ(palette.count(1), 0);
-    EXPECT_EQ(palette.name(1), "");
 }
 
 TEST(PaletteReading, DamagedCountsFallBackToTheBuiltInPagesAndLeaveTheFile) {

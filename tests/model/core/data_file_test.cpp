@@ -8,32 +8,6 @@
 
 namespace {
 
-TEST(DataFile, OpenWhileOpenKeepsTheFirstStream) {
-    Scratch_Dir dir;
-    const std::string path = dir.file("a.dat");
-    write_bytes(path, {1, 2, 3});
-    Data_File file(path);
-    ASSERT_TRUE(file.open_read());
-    std::FILE* reading = file.stream();
-    EXPECT_TRUE(file.open_write());
-    EXPECT_EQ(file.stream(), reading);
-    unsigned char bytes[3];
-    file.read_block(bytes, 3);
-    EXPECT_EQ(bytes[2], 3);
-    file.close();
-    EXPECT_FALSE(file.is_open());
-    EXPECT_EQ(read_bytes(path).size(), 3u);
-}
-
-TEST(DataFile, MissingFileIsAnOrdinaryResult) {
-    Scratch_Dir dir;
-    Data_File file(dir.file("missing.dat"));
-    EXPECT_FALSE(file.open_read());
-    EXPECT_FALSE(file.is_open());
-    unsigned char buffer[4];
-    EXPECT_FALSE(file.load_whole(buffer, sizeof buffer));
-}
-
 TEST(DataFile, SaveWholeAndLoadWholeRoundTrip) {
     Scratch_Dir dir;
     Data_File file(dir.file("b.dat"));
@@ -43,15 +17,6 @@ TEST(DataFile, SaveWholeAndLoadWholeRoundTrip) {
     EXPECT_TRUE(file.load_whole(in, sizeof in));
     EXPECT_EQ(in[0], 9);
     EXPECT_EQ(in[4], 5);
-}
-
-TEST(DataFile, SaveWholeWhereNothingCanBeCreatedReturnsMinusOne) {
-    Scratch_Dir dir;
-    const std::string path = dir.file("no_such_dir/c.dat");
-    Data_File file(path);
-    const unsigned char out[1] = {1};
-    EXPECT_EQ(file.save_whole(out, sizeof out), -1);
-    EXPECT_FALSE(std::filesystem::exists(path));
 }
 
 TEST(DataFileDeathTest, ShortLoadNamesTheFileAfterTwoBlanks) {

@@ -9,35 +9,6 @@
 
 namespace {
 
-TEST(TokenStreamWriting, NumbersAreSeparatedByCommas) {
-    Token_Stream s;
-    s.write_number(3);
-    s.write_number(-32);
-    s.write_number(0);
-    EXPECT_EQ(s.text(), "3,-32,0");
-}
-
-TEST(TokenStreamWriting, TextHasNoSeparatorBeforeAndACommaAfter) {
-    Token_Stream s;
-    s.write_number(255);
-    s.write_text("Default");
-    s.write_number(32);
-    EXPECT_EQ(s.text(), "255Default,,32");
-    Token_Stream first;
-    first.write_text("");
-    first.write_number(1);
-    EXPECT_EQ(first.text(), ",,1");
-}
-
-TEST(TokenStreamReading, NumbersStopAtCommaOrColon) {
-    Token_Stream s("12,-7:4,x");
-    EXPECT_EQ(s.read_number(), 12);
-    EXPECT_EQ(s.read_number(), -7);
-    EXPECT_EQ(s.read_number(), 4);
-    EXPECT_EQ(s.read_number(), 0);
-    EXPECT_TRUE(s.at_end());
-}
-
 TEST(TokenStreamReading, NumberTakesAtMostSixteenCharacters) {
     Token_Stream s("00000000000000123,5");
     // Sixteen zeros-and-digits, then the seventeenth character starts a token.
@@ -47,36 +18,10 @@ TEST(TokenStreamReading, NumberTakesAtMostSixteenCharacters) {
     EXPECT_EQ(s.read_number(), 5);
 }
 
-TEST(TokenStreamReading, NumberConversionTakesLeadingDigitsOnly) {
-    Token_Stream s("42abc,abc,,+8");
-    EXPECT_EQ(s.read_number(), 42);
-    EXPECT_EQ(s.read_number(), 0);
-    EXPECT_EQ(s.read_number(), 0);
-    EXPECT_EQ(s.read_number(), 8);
-}
-
 TEST(TokenStreamReading, HugeNumbersAreHeldAtTheIntegerBounds) {
     Token_Stream s("999999999999999,-99999999999999");
     EXPECT_EQ(s.read_number(), std::numeric_limits<int32_t>::max());
     EXPECT_EQ(s.read_number(), std::numeric_limits<int32_t>::min());
-}
-
-TEST(TokenStreamReading, TextHasNoLengthLimit) {
-    const std::string long_name(100, 'n');
-    Token_Stream s(long_name + ":rest");
-    EXPECT_EQ(s.read_text(), long_name);
-    EXPECT_EQ(s.read_text(), "rest");
-}
-
-TEST(TokenStreamReading, TheEndOfTheTextEndsAToken) {
-    Token_Stream s("7,ab");
-    EXPECT_EQ(s.read_number(), 7);
-    EXPECT_EQ(s.read_text(), "ab");
-    EXPECT_EQ(s.read_text(), "");
-    EXPECT_EQ(s.read_number(), 0);
-    Token_Stream empty;
-    EXPECT_EQ(empty.read_number(), 0);
-    EXPECT_EQ(empty.read_text(), "");
 }
 
 TEST(TokenStreamFile, RoundTripWithLengthPrefixCountingTheColon) {
@@ -109,18 +54,6 @@ TEST(TokenStreamFile, RoundTripWithLengthPrefixCountingTheColon) {
     EXPECT_EQ(in.read_number(), -2);
     EXPECT_EQ(in.read_number(), 30);
     EXPECT_TRUE(in.at_end());
-}
-
-TEST(TokenStreamFile, LengthZeroGivesAnEmptyText) {
-    Scratch_Dir dir;
-    const std::string path = dir.file("empty.dat");
-    write_bytes(path, {0, 0, 0, 0});
-    Data_File file(path);
-    ASSERT_TRUE(file.open_read());
-    Token_Stream in("old");
-    in.read_from(file);
-    EXPECT_EQ(in.text(), "");
-    EXPECT_EQ(in.read_number(), 0);
 }
 
 TEST(TokenStreamFileDeathTest, ShortTextEndsWithTheBlockError) {

@@ -22,18 +22,6 @@ TEST(Adjust, HueSaturationAndValueKeepAlpha) {
     EXPECT_EQ(operation(value, Color(100, 0, 0), 100), Color(200, 0, 0));
 }
 
-TEST(Adjust, SliderPositionsMapOntoTheRange) {
-    EXPECT_EQ(amount_of(hue, 256), 180);
-    EXPECT_EQ(amount_of(hue, 0), -180);
-    EXPECT_EQ(amount_of(adjust::lighten, 255), 255);
-    EXPECT_EQ(position_of(hue, 0), 128);
-    EXPECT_EQ(clamp_position(hue, 300), 256);
-    EXPECT_EQ(clamp_position(value, -4), 0);
-    char label[96];
-    slider_label(hue, 256, label, sizeof label);
-    EXPECT_EQ(std::string(label), "Hue (180/360.000)  ");
-}
-
 TEST(Adjust, ApplyToTileChangesEveryPixel) {
     Tile t(3, 2);
     t.fill(Color(10, 10, 10, 50));

@@ -51,18 +51,6 @@ TEST(Brush_Stamp, StampsItsOwnColoursAndLeavesTransparentPixelsOut) {
     EXPECT_EQ(c.tile.get_pixel(6, 6), red);
 }
 
-TEST(Brush_Stamp, AFlatColourKeepsTheShape) {
-    Canvas c;
-    const Image t;
-    Brush_Stamp s(t, Brush_Stamp::mode_brush);
-    s.set_flat_color(blue);
-    s.stamp(c.painter, 0, 0);
-    EXPECT_EQ(c.tile.get_pixel(0, 0), blue);
-    EXPECT_EQ(c.tile.get_pixel(2, 0), paper);
-    EXPECT_EQ(c.tile.get_pixel(1, 1), paper);
-    EXPECT_EQ(c.tile.get_pixel(2, 1), blue);
-}
-
 TEST(Brush_Stamp, APatternRepeatsFromTheTilesCorner) {
     Canvas c;
     const Image t;
@@ -74,14 +62,6 @@ TEST(Brush_Stamp, APatternRepeatsFromTheTilesCorner) {
     EXPECT_EQ(c.tile.get_pixel(4, 6), blue);   // image (1, 0)
     EXPECT_EQ(c.tile.get_pixel(6, 6), red);    // image (0, 0)
     EXPECT_EQ(c.tile.get_pixel(7, 6), paper);
-}
-
-TEST(Brush_Stamp, APatternWrapsLeftOfTheTile) {
-    Canvas c;
-    const Image t;
-    Brush_Stamp(t, Brush_Stamp::mode_pattern).stamp(c.painter, -1, -1);
-    EXPECT_EQ(c.tile.get_pixel(0, 0), red);
-    EXPECT_EQ(c.tile.get_pixel(1, 0), blue);
 }
 
 TEST(Brush_Stamp, ALineOfStampsLeavesNoGapsAndStaysInTheSelection) {

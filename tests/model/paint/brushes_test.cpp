@@ -23,20 +23,3 @@ TEST(BuiltInBrushes, SizeTwoDiagonalsAreNotBlocks) {
     EXPECT_EQ(mask(brushes.get(0, 2)), "##/##");
     EXPECT_EQ(mask(brushes.get(5, 2)), "##/##");
 }
-
-TEST(BuiltInBrushes, EveryShapeOfSizeOneIsOnePixel) {
-    const Built_In_Brushes brushes;
-    for (int s = 0; s < Built_In_Brushes::shape_count; ++s) EXPECT_EQ(mask(brushes.get(s, 1)), "#") << s;
-}
-
-TEST(BuiltInBrushes, LargerMasksFollowTheTable) {
-    const Built_In_Brushes brushes;
-    EXPECT_EQ(mask(brushes.get(0, 6)), "..##../.####./######/######/.####./..##..");
-    EXPECT_EQ(mask(brushes.get(4, 5)), "#...#/.#.#./..#../.#.#./#...#");
-    EXPECT_EQ(mask(brushes.get(5, 4)), ".##./#..#/#..#/.##.");
-    EXPECT_EQ(mask(brushes.get(6, 3)), "###/#.#/###");
-    EXPECT_EQ(mask(brushes.get(3, 3)), "..#/.#./#..");
-    // Clear pixels are transparent black, set ones opaque white.
-    EXPECT_EQ(brushes.get(6, 3).get_pixel(1, 1), Brush::off);
-    EXPECT_EQ(brushes.get(6, 3).get_pixel(0, 0), Brush::on);
-}

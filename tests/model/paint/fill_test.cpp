@@ -20,17 +20,6 @@ int count_of(const Tile& t, Color c) {
 }
 }  // namespace
 
-TEST(DistanceGrid, ReadsMinusTwoOutsideAndIgnoresWritesThere) {
-    Distance_Grid g;
-    g.resize(3, 2);
-    g.set(3, 0, 7);
-    g.set(-1, 0, 7);
-    EXPECT_EQ(g.get(3, 0), -2);
-    EXPECT_EQ(g.get(0, -1), -2);
-    g.set(2, 1, 5);
-    EXPECT_EQ(g.get(2, 1), 5);
-}
-
 TEST(Fill, IgnoresAlphaWhenComparing) {
     Tile t(6, 6);
     t.fill(Color(10, 20, 30, 255));

@@ -32,12 +32,6 @@ struct Canvas {
 };
 }  // namespace
 
-TEST(Line, EqualPointsPlotOnePixel) {
-    Canvas c;
-    c.painter.line(4, 5, 4, 5, ink);
-    EXPECT_EQ(painted(c.tile), (Points{{4, 5}}));
-}
-
 TEST(Line, ShallowLineRoundsHalvesAwayFromZero) {
     Canvas c;
     c.painter.line(0, 0, 3, 1, ink);
@@ -56,14 +50,6 @@ TEST(Line, PartlyOutsideTheTileIsClippedSilently) {
     Canvas c(4);
     c.painter.line(-3, 1, 6, 1, ink);
     EXPECT_EQ(painted(c.tile), (Points{{0, 1}, {1, 1}, {2, 1}, {3, 1}}));
-}
-
-TEST(Painter, WritesTheWholeColourWithoutBlending) {
-    Canvas c;
-    c.tile.fill(Color(10, 20, 30, 255));
-    const Color half(100, 150, 200, 7);
-    c.painter.plot(2, 2, half);
-    EXPECT_EQ(c.tile.get_pixel(2, 2), half);
 }
 
 TEST(Painter, ClipsToTheSelectionMask) {
@@ -98,22 +84,10 @@ TEST(Rectangle, FilledAndOutlinedUsesTheInsideColourWithin) {
     EXPECT_EQ(painted(c.tile).size(), 12u);
 }
 
-TEST(Rectangle, EqualCornersPlotTheBorderColour) {
-    Canvas c;
-    c.painter.rectangle_filled(3, 3, 3, 3, ink, white);
-    EXPECT_EQ(painted(c.tile), (Points{{3, 3}}));
-}
-
 TEST(Ellipse, ZeroWidthIsAVerticalLine) {
     Canvas c;
     c.painter.ellipse_outline(8, 8, 0, 3, ink);
     EXPECT_EQ(painted(c.tile), (Points{{8, 5}, {8, 6}, {8, 7}, {8, 8}, {8, 9}, {8, 10}, {8, 11}}));
-}
-
-TEST(Ellipse, ZeroHeightIsAHorizontalLine) {
-    Canvas c;
-    c.painter.ellipse_outline(8, 8, -2, 0, ink);
-    EXPECT_EQ(painted(c.tile), (Points{{6, 8}, {7, 8}, {8, 8}, {9, 8}, {10, 8}}));
 }
 
 TEST(Ellipse, OutlineIsSymmetricAndReachesItsRadii) {
@@ -147,15 +121,4 @@ TEST(Ellipse, FilledHasNoHolesAndKeepsTheOutline) {
     Canvas outline;
     outline.painter.ellipse_outline(8, 8, 5, 4, ink);
     EXPECT_EQ(painted(c.tile), painted(outline.tile));
-}
-
-TEST(Shape, KindsFollowTheToolAndType) {
-    Canvas a, b;
-    a.painter.shape(shape_ellipse_filled, 8, 8, 11, 10, ink, white);
-    b.painter.ellipse_filled(8, 8, 3, 2, ink, ink);
-    EXPECT_EQ(painted(a.tile), painted(b.tile));
-    Canvas r;
-    r.painter.shape(shape_rectangle_both, 1, 1, 3, 3, ink, white);
-    EXPECT_EQ(r.tile.get_pixel(2, 2), white);
-    EXPECT_EQ(r.tile.get_pixel(1, 1), ink);
 }

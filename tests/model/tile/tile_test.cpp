@@ -12,23 +12,6 @@ namespace {
 
 const Color transparent_black(0, 0, 0, 0);
 
-void randomise(Tile& tile, unsigned seed) {
-    std::mt19937 random(seed);
-    for (int i = 0; i < tile.pixel_count(); ++i) tile.pixels()[i] = Color::from_word(random());
-}
-
-TEST(TileBasics, NewTileIsOpaqueBlackWithATextureOfItsPixels) {
-    Fake_Texture_Scope textures;
-    Tile tile(5, 3);
-    EXPECT_EQ(tile.width(), 5);
-    EXPECT_EQ(tile.height(), 3);
-    EXPECT_EQ(tile.pixel_count(), 15);
-    for (int y = 0; y < 3; ++y)
-        for (int x = 0; x < 5; ++x) EXPECT_EQ(tile.get_pixel(x, y), Color());
-    EXPECT_TRUE(texture_is_current(tile));
-    EXPECT_EQ(Fake_Texture_Scope::of(tile).updates, 0);
-}
-
 TEST(TilePixelAccess, OutsideReadsTransparentBlackAndIgnoresWrites) {
     Tile tile(6, 4);
     tile.fill(Color(9, 9, 9));
@@ -44,19 +27,6 @@ TEST(TilePixelAccess, OutsideReadsTransparentBlackAndIgnoresWrites) {
     EXPECT_FALSE(tile.is_outside(5, 3));
 }
 
-TEST(TilePixelAccess, WhiteIgnoresAlphaEmptyNeedsAllFourZero) {
-    Tile tile(2, 2);
-    tile.set_pixel(0, 0, Color(255, 255, 255, 0));
-    tile.set_pixel(1, 0, Color(255, 254, 255));
-    tile.set_pixel(0, 1, Color(0, 0, 0, 1));
-    tile.set_pixel(1, 1, transparent_black);
-    EXPECT_TRUE(tile.is_white(0, 0));
-    EXPECT_FALSE(tile.is_white(1, 0));
-    EXPECT_FALSE(tile.is_empty(0, 1));
-    EXPECT_TRUE(tile.is_empty(1, 1));
-    EXPECT_EQ(tile.alpha(0, 1), 1);
-}
-
 TEST(TileTexture, WritesAndFillLeaveTheTextureUntilUpdated) {
     Fake_Texture_Scope textures;
     Tile tile(3, 3);
@@ -69,16 +39,6 @@ TEST(TileTexture, WritesAndFillLeaveTheTextureUntilUpdated) {
     tile.draw(12, 34);
     EXPECT_EQ(Fake_Texture_Scope::of(tile).last_x, 12);
     EXPECT_EQ(Fake_Texture_Scope::of(tile).last_y, 34);
-}
-
-TEST(TileCopy, SameSizeCopiesAndUpdatesTheDestinationTexture) {
-    Fake_Texture_Scope textures;
-    Tile source(8, 8), destination(8, 8);
-    randomise(source, 1);
-    source.copy_into(destination);
-    EXPECT_TRUE(std::equal(source.pixels(), source.pixels() + 64, destination.pixels()));
-    EXPECT_TRUE(texture_is_current(destination));
-    EXPECT_EQ(Fake_Texture_Scope::of(source).updates, 0);
 }
 
 TEST(TileCopy, ResamplingWritesOpaquePixelsEvenFromTransparentOnes) {
@@ -126,14 +86,6 @@ TEST(TileCopy, ResamplingBlendsOnlyNeighbouringColours) {
             ASSERT_TRUE(f.red >= 69 && f.red <= 70 && f.green >= 139 && f.green <= 140 && f.blue >= 209 && f.alpha == 255);
         }
     }
-}
-
-TEST(TileCopy, EmptyTilesAreLeftAlone) {
-    Tile empty(0, 0), tile(4, 4);
-    tile.fill(Color(5, 5, 5));
-    empty.copy_into(tile);
-    tile.copy_into(empty);
-    EXPECT_EQ(tile.get_pixel(2, 2), Color(5, 5, 5));
 }
 
 }  // namespace

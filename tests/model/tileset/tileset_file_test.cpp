@@ -88,30 +88,6 @@ TEST(TilesetFileWriting, SizesOf256OrMoreKeepTheirLow8Bits) {
     EXPECT_EQ(bytes[6], 1);
 }
 
-TEST(TilesetFileWriting, NoTemporaryFileIsLeftBehind) {
-    Scratch_Dir dir;
-    const std::string path = dir.file("clean.wst");
-    Tile_Store store(6, 6, 256);
-    store.add_tile();
-    write_bytes(path, {1, 2, 3});
-    ASSERT_GT(Tileset_File::write(store, path), 0);
-    int entries = 0;
-    for ([[maybe_unused]] const auto& entry : std::filesystem::directory_iterator(dir.path()))
-        ++entries;
-    EXPECT_EQ(entries, 1);
-    EXPECT_EQ(read_bytes(path).size(), 11u + 144);
-}
-
-TEST(TilesetFileWriting, UncreatableFileReturnsMinusOne) {
-    Scratch_Dir dir;
-    Tile_Store store(6, 6, 256);
-    store.add_tile();
-    EXPECT_EQ(Tileset_File::write(store, dir.file("missing/x.wst")), -1);
-    std::filesystem::create_directory(dir.file("folder.wst"));
-    EXPECT_EQ(Tileset_File::write(store, dir.file("folder.wst")), -1);
-    EXPECT_TRUE(std::filesystem::is_directory(dir.file("folder.wst")));
-}
-
 TEST(TilesetFileWriting, SavingThroughALinkReplacesWhatItPointsAt) {
     Scratch_Dir dir;
     const std::string real = dir.file("real.wst");
@@ -165,43 +141,6 @@ TEST(TilesetFileRoundTrip, RandomTilesetsComeBackByteForByte) {
         ASSERT_EQ(Tileset_File::write(*back, again), written);
         EXPECT_EQ(read_bytes(path), read_bytes(again));
     }
-}
-
-TEST(TilesetFileReading, LoadedTilesAreShownAndTheFirstIsCurrent) {
-    Fake_Texture_Scope textures;
-    Scratch_Dir dir;
-    const std::string path = dir.file("shown.wst");
-    std::mt19937 random(5);
-    Tile_Store store(6, 7, 256);
-    randomise(store, 3, random);
-    ASSERT_GT(Tileset_File::write(store, path), 0);
-    auto back = Tileset_File::read(path);
-    ASSERT_TRUE(back);
-    EXPECT_EQ(back->current_index(), 0);
-    EXPECT_EQ(back->current_tile(), back->tile_at(0));
-    for (const auto& tile : back->all()) EXPECT_TRUE(texture_is_current(*tile));
-}
-
-TEST(TilesetFileReading, BytesThreeAndFourAreNotExamined) {
-    Scratch_Dir dir;
-    const std::string path = dir.file("odd.wst");
-    Bytes bytes{'W', 'S', 'T', 'x', 'y', 1, 1, 1, 0, 0, 0, 1, 2, 3, 4};
-    write_bytes(path, bytes);
-    auto back = Tileset_File::read(path);
-    ASSERT_TRUE(back);
-    EXPECT_EQ(back->tile_at(0)->get_pixel(0, 0), Color(4, 3, 2, 1));
-}
-
-TEST(TilesetFileReading, TheCountIsNotLimitedByTheStoreMaximum) {
-    Scratch_Dir dir;
-    const std::string path = dir.file("many.wst");
-    Bytes bytes{'W', 'S', 'T', 0x0A, 0, 1, 1, 0x2C, 0x01, 0, 0};
-    bytes.resize(11 + 300 * 4, 0xFF);
-    write_bytes(path, bytes);
-    auto back = Tileset_File::read(path);
-    ASSERT_TRUE(back);
-    EXPECT_EQ(back->tile_count(), 300);
-    EXPECT_FALSE(back->add_tile());
 }
 
 TEST(TilesetFileReading, RefusedFilesGiveNoTiles) {

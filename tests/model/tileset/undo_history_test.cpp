@@ -64,14 +64,6 @@ struct History : ::testing::Test {
 };
 }  // namespace
 
-TEST_F(History, StartsWithOneRecordThatCannotBeUndone) {
-    EXPECT_EQ(history.count(), 1);
-    EXPECT_EQ(history.position(), 0);
-    EXPECT_EQ(history.at(0).undo_command(), command_flood_fill);
-    EXPECT_FALSE(history.undo(store, target));
-    EXPECT_FALSE(history.redo(store, target));
-}
-
 TEST_F(History, TwentyStrokesKeepEighteenAndSeventeenUndosReachTheFloor) {
     for (int i = 1; i <= 20; ++i) stroke(uint8_t(i * 10));
     EXPECT_EQ(history.count(), 18);
@@ -96,19 +88,6 @@ TEST_F(History, UndoAndRedoRestoreThePixels) {
     // Strokes have no undo or redo commands of their own to run... except
     // their own number, which the dispatch treats as choosing the tool.
     EXPECT_EQ(target.ran, (std::vector<int>{command_pen, command_pen}));
-}
-
-TEST_F(History, ANewStrokeAfterUndoDropsTheRedoTail) {
-    stroke(50);
-    stroke(90);
-    stroke(130);
-    history.undo(store, target);
-    history.undo(store, target);
-    stroke(200);
-    EXPECT_EQ(history.count(), 3);
-    EXPECT_FALSE(history.redo(store, target));
-    EXPECT_TRUE(history.undo(store, target));
-    EXPECT_EQ(tile().get_pixel(0, 0), Color(50, 50, 50));
 }
 
 TEST_F(History, UndoOfNextTileRunsChangeTileAndReturnsToTheEarlierTile) {
