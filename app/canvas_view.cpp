@@ -10,6 +10,7 @@
 #include "platform/ui_colors.h"
 #include "model/tile/transforms.h"
 #include "model/selection/floating.h"
+#include "model/selection/tile_selection.h"
 #include "platform/wait_for_key.h"
 
 namespace {
@@ -23,7 +24,8 @@ bool is_selected(const Tile& m, int x, int y) {
 }
 }  // namespace
 
-Canvas_View::Canvas_View(const Rectangle& view, Color background) : view(view), background(background) {}
+Canvas_View::Canvas_View(const Rectangle& view, Color background, Tile_Selection& selection)
+    : view(view), background(background), marks(selection) {}
 
 Canvas_View::~Canvas_View() {
     if (picture_texture) SDL_DestroyTexture(picture_texture);
@@ -75,32 +77,13 @@ void Canvas_View::set_tile(Tile* tile) {
     shown_w = tile ? tile->width() : 0;
     shown_h = tile ? tile->height() : 0;
     update_extent();
-    // An image carried to a smaller tile keeps only what fits there.
-    fit_float(float_x, float_y);
-    if (new_size) {
-        resize_masks();
-        centre();
+    marks.follow_tile(tile);
+    if (!new_size) return;
+    if (tile) {
+        history = std::make_unique<Tile>(shown_w, shown_h);
+        tile->copy_into(*history);
     }
-}
-
-void Canvas_View::resize_masks() {
-    if (!shown) return;
-    const int w = shown->width();
-    const int h = shown->height();
-    mask = std::make_unique<Tile>(w, h);
-    second_mask = std::make_unique<Tile>(w, h);
-    history = std::make_unique<Tile>(w, h);
-    shown->copy_into(*history);
-    selection_on = false;
-    second_on = false;
-    // A floating image carried to a tile of another size keeps floating.
-    if (pending) move_float(float_x, float_y);
-}
-
-// Clears the mask only: the floating image keeps its outline.
-void Canvas_View::reset_selection() {
-    if (mask) mask->fill(Color(0, 0, 0));
-    selection_on = false;
+    centre();
 }
 
 void Canvas_View::save_copy() {
@@ -127,71 +110,18 @@ void Canvas_View::end_seams() {
     shown->update_texture();
 }
 
-void Canvas_View::commit_float() {
-    if (!pending || !floating || !shown) return;
-    floating::stamp_wrapped(*shown, *floating, float_x, float_y);
-    shown->update_texture();
-    pending = false;
-}
-
 std::unique_ptr<Tile> Canvas_View::tile_as_shown() const {
     const bool offset = seam_h >= 0 || seam_v >= 0;
-    if (!shown || (!(pending && floating) && !offset)) return nullptr;
-    auto copy = std::make_unique<Tile>(shown->width(), shown->height());
-    shown->copy_into(*copy);
-    if (pending && floating) floating::stamp_wrapped(*copy, *floating, float_x, float_y);
+    if (!shown || (!marks.float_pending() && !offset)) return nullptr;
+    std::unique_ptr<Tile> copy = marks.put_down_copy(*shown);
+    if (!copy) {
+        copy = std::make_unique<Tile>(shown->width(), shown->height());
+        shown->copy_into(*copy);
+    }
     for (int i = 0; i < seam_h; ++i) offset_copy(*copy, 1, 0);
     for (int i = 0; i < seam_v; ++i) offset_copy(*copy, 0, 1);
     return copy;
 }
-
-void Canvas_View::paste(const Tile& image, int x, int y) {
-    commit_float();
-    floating = std::make_unique<Tile>(image.width(), image.height());
-    image.copy_into(*floating);
-    pending = true;
-    move_float(x, y);
-    fit_float(x, y);
-}
-
-// An image larger than the tile would wrap onto itself and scramble: only
-// the part that lies over the tile is kept.
-void Canvas_View::fit_float(int x, int y) {
-    if (!pending || !floating || !shown) return;
-    const int w = floating->width();
-    const int h = floating->height();
-    if (w <= shown->width() && h <= shown->height()) return;
-    const int cut_w = std::min(w, shown->width());
-    const int cut_h = std::min(h, shown->height());
-    const int from_x = std::clamp(-x, 0, w - cut_w);
-    const int from_y = std::clamp(-y, 0, h - cut_h);
-    auto part = std::make_unique<Tile>(cut_w, cut_h);
-    for (int py = 0; py < cut_h; ++py)
-        for (int px = 0; px < cut_w; ++px) part->set_pixel(px, py, floating->get_pixel(from_x + px, from_y + py));
-    part->update_texture();
-    floating = std::move(part);
-    move_float(x + from_x, y + from_y);
-}
-
-void Canvas_View::replace_float(const Tile* image, int x, int y) {
-    pending = false;
-    if (image) paste(*image, x, y);
-}
-
-void Canvas_View::move_float(int x, int y) {
-    float_x = shown ? floating::wrap(x, shown->width()) : x;
-    float_y = shown ? floating::wrap(y, shown->height()) : y;
-}
-
-bool Canvas_View::on_float(int x, int y) const {
-    if (!pending || !floating || !shown || shown->is_outside(x, y)) return false;
-    // The image may be larger than the tile: any of its pixels over the cell counts.
-    for (int iy = floating::wrap(y - float_y, shown->height()); iy < floating->height(); iy += shown->height())
-        for (int ix = floating::wrap(x - float_x, shown->width()); ix < floating->width(); ix += shown->width())
-            if (floating->alpha(ix, iy) != 0) return true;
-    return false;
-}
-
 
 Cell Canvas_View::cell_at(float x, float y) const {
     return Cell{floor_div(int(x) - origin_x, cell_size), floor_div(int(y) - origin_y, cell_size)};
@@ -211,10 +141,10 @@ inline Color over(Color below, Color above) {
 // True when something other than the tile's and the mask's rows changed since
 // the last composition.
 bool Canvas_View::compose_everything() {
-    const Compose_Key key{shown->width(), shown->height(), checker_w, checker_h, grid_contrast, selection_on};
+    const Compose_Key key{shown->width(), shown->height(), checker_w, checker_h, grid_contrast, marks.active()};
     const size_t cells = size_t(shown->pixel_count());
     bool all = key != composed_key || composed_pixels.size() != cells;
-    if (selection_on && !mask->same_size(*shown)) all = true;
+    if (marks.active() && !marks.mask()->same_size(*shown)) all = true;
     composed_key = key;
     if (all) {
         composed_pixels.assign(cells, Color(0, 0, 0, 0));
@@ -232,11 +162,11 @@ void Canvas_View::compose_cells() {
     const int w = shown->width();
     const int h = shown->height();
     const bool all = compose_everything();
-    const bool masked = selection_on && mask->same_size(*shown);
+    const bool masked = marks.active() && marks.mask()->same_size(*shown);
     for (int ty = 0; ty < h; ++ty) {
         const size_t row = size_t(ty * w);
         const Color* pixels = shown->pixels() + row;
-        const Color* mask_pixels = masked ? mask->pixels() + row : nullptr;
+        const Color* mask_pixels = masked ? marks.mask()->pixels() + row : nullptr;
         if (!all && std::equal(pixels, pixels + w, composed_pixels.begin() + std::ptrdiff_t(row)) &&
             (!masked || std::equal(mask_pixels, mask_pixels + w, composed_mask.begin() + std::ptrdiff_t(row))))
             continue;
@@ -252,7 +182,7 @@ void Canvas_View::compose_cells() {
                 lighten(grid, grid_contrast);
             else
                 darken(grid, grid_contrast);
-            if (selection_on && !is_selected(*mask, tx, ty)) {
+            if (marks.active() && !is_selected(*marks.mask(), tx, ty)) {
                 inside = over(inside, ui_colors[ui_white_veil]);
                 grid = over(grid, ui_colors[ui_white_veil]);
             }
@@ -347,10 +277,10 @@ void Canvas_View::draw(Main_Window& window) {
         window.sink().copy(picture_texture, band_generation[size_t(ty)], false, picture_part, screen_part);
     }
 
-    if (pending && floating && !selection_on) draw_float(window);
-    if (pending && floating) frame_float(window);
+    if (marks.floating_image() && !marks.active()) draw_float(window);
+    if (marks.floating_image()) frame_float(window);
     // Edge pieces only where a selection or a seam needs them.
-    if (!selection_on && !second_on && seam_h < 0 && seam_v < 0) return;
+    if (!marks.active() && !marks.drawing() && seam_h < 0 && seam_v < 0) return;
     window.clip(view);
     const int first_x = std::max(0, floor_div(view.x - origin_x, s));
     const int first_y = std::max(0, floor_div(view.y - origin_y, s));
@@ -411,15 +341,16 @@ void Canvas_View::compose_band(const Picture_Key& key, int ty) {
 // uploaded again. Where it wraps onto itself the later pixels show, as they
 // would be stamped.
 void Canvas_View::draw_float(Main_Window& window) {
+    const Tile& image = *marks.floating_image();
     const int s = cell_size;
-    const int fw = floating->width();
-    const int fh = floating->height();
+    const int fw = image.width();
+    const int fh = image.height();
     if (fw <= 0 || fh <= 0) return;
     // Magnified in memory once per change of the image or the zoom, so a move
     // is one unscaled blended copy (the renderer's scaled blending is slow).
     const int tw = fw * s;
     const int th = fh * s;
-    const size_t n = size_t(floating->pixel_count());
+    const size_t n = size_t(image.pixel_count());
     if (!float_texture || float_texture_w != tw || float_texture_h != th) {
         if (float_texture) SDL_DestroyTexture(float_texture);
         float_texture = SDL_CreateTexture(window.renderer(), SDL_PIXELFORMAT_ARGB8888, SDL_TEXTUREACCESS_STREAMING,
@@ -429,8 +360,8 @@ void Canvas_View::draw_float(Main_Window& window) {
         float_texture_h = th;
         uploaded_float.clear();
     }
-    if (uploaded_float.size() != n || !std::equal(floating->pixels(), floating->pixels() + n, uploaded_float.begin())) {
-        uploaded_float.assign(floating->pixels(), floating->pixels() + n);
+    if (uploaded_float.size() != n || !std::equal(image.pixels(), image.pixels() + n, uploaded_float.begin())) {
+        uploaded_float.assign(image.pixels(), image.pixels() + n);
         float_picture.resize(size_t(tw) * size_t(th));
         for (int y = 0; y < th; ++y) {
             uint32_t* row = &float_picture[size_t(y) * size_t(tw)];
@@ -439,7 +370,7 @@ void Canvas_View::draw_float(Main_Window& window) {
                 continue;
             }
             // Colours lie in memory as blue, green, red, alpha: the texture's own layout.
-            const Color* source = floating->pixels() + size_t(y / s) * size_t(fw);
+            const Color* source = image.pixels() + size_t(y / s) * size_t(fw);
             for (int x = 0; x < fw; ++x) std::fill_n(row + size_t(x) * size_t(s), s, source[x].word());
         }
         SDL_UpdateTexture(float_texture, nullptr, float_picture.data(), tw * 4);
@@ -449,8 +380,8 @@ void Canvas_View::draw_float(Main_Window& window) {
     const int h = shown->height();
     window.clip(Rectangle{origin_x, origin_y, extent_w, extent_h}.intersection(view));
     const SDL_FRect source{0, 0, float(tw), float(th)};
-    const int fx = floating::wrap(float_x, w);
-    const int fy = floating::wrap(float_y, h);
+    const int fx = floating::wrap(marks.float_x(), w);
+    const int fy = floating::wrap(marks.float_y(), h);
     for (int j = 0; fy - j * h + fh > 0; ++j)
         for (int i = 0; fx - i * w + fw > 0; ++i) {
             const int x = fx - i * w;
@@ -465,13 +396,16 @@ void Canvas_View::draw_float(Main_Window& window) {
 // wraps, so the user sees what will move: a handful of rectangles, which a
 // drag redraws at every move, where a per-pixel outline would cost hundreds.
 void Canvas_View::frame_float(Main_Window& window) {
+    const Tile& image = *marks.floating_image();
     const int w = shown->width();
     const int h = shown->height();
     const int s = cell_size;
-    const int fw = std::min(floating->width(), w);
-    const int fh = std::min(floating->height(), h);
-    const int xs[2][2] = {{float_x, std::min(float_x + fw, w)}, {0, float_x + fw - w}};
-    const int ys[2][2] = {{float_y, std::min(float_y + fh, h)}, {0, float_y + fh - h}};
+    const int fw = std::min(image.width(), w);
+    const int fh = std::min(image.height(), h);
+    const int fx = marks.float_x();
+    const int fy = marks.float_y();
+    const int xs[2][2] = {{fx, std::min(fx + fw, w)}, {0, fx + fw - w}};
+    const int ys[2][2] = {{fy, std::min(fy + fh, h)}, {0, fy + fh - h}};
     window.clip(view);
     for (const auto& xr : xs)
         for (const auto& yr : ys)
@@ -484,8 +418,8 @@ void Canvas_View::frame_float(Main_Window& window) {
 
 void Canvas_View::draw_cell_marks(Main_Window& window, int tx, int ty, int px, int py) {
     const int s = cell_size;
-    if (selection_on && is_selected(*mask, tx, ty)) draw_edges(window, *mask, tx, ty, px, py, false);
-    if (second_on && is_selected(*second_mask, tx, ty)) draw_edges(window, *second_mask, tx, ty, px, py, true);
+    if (marks.active() && is_selected(*marks.mask(), tx, ty)) draw_edges(window, *marks.mask(), tx, ty, px, py, false);
+    if (marks.drawing() && is_selected(*marks.drawn_mask(), tx, ty)) draw_edges(window, *marks.drawn_mask(), tx, ty, px, py, true);
     if (seam_h >= 0 && tx == shown->width() / 2) window.edge_v(Edge_Kind::seam, px, py, s, ty % 2 == 1);
     if (seam_v >= 0 && ty == shown->height() / 2) window.edge_h(Edge_Kind::seam, px, py, s, tx % 2 == 1);
 }

@@ -10,20 +10,22 @@
 #include "model/color/color.h"
 #include "model/tile/tile.h"
 #include "model/core/rectangle.h"
+#include "model/selection/tile_selection.h"
 
 class Main_Window;
 
 // The current tile magnified in the canvas area: every tile pixel a square
 // cell over a checkerboard, with a per-cell grid line in a contrast of the
 // pixel's own colour, the selection's dashed edges, a veil outside the
-// selection, a pending floating image and the seam markers. It keeps the zoom,
-// the pan and the seam offsets, and runs strokes in a loop of its own.
+// selection, a pending floating image and the seam markers. The selection and
+// the floating image belong to the document (`Tile_Selection`); the view keeps
+// the zoom, the pan and the seam offsets, and runs strokes in a loop of its own.
 class Canvas_View {
 public:
     static constexpr int min_pixel_size = 3;
     static constexpr int max_pixel_size = 32;
 
-    Canvas_View(const Rectangle& view, Color background);
+    Canvas_View(const Rectangle& view, Color background, Tile_Selection& selection);
     ~Canvas_View();
     Canvas_View(const Canvas_View&) = delete;
     Canvas_View& operator=(const Canvas_View&) = delete;
@@ -52,32 +54,12 @@ public:
     void set_seam_offsets(int horizontal, int vertical);
     void end_seams();
 
-    // The selection mask: pixels whose blue, green and red are all 255.
-    Tile* selection() { return mask.get(); }
-    bool has_selection() const { return selection_on; }
-    void set_has_selection(bool on) { selection_on = on; }
-    Tile* drawn_selection() { return second_mask.get(); }
-    void set_drawing_selection(bool on) { second_on = on; }
-    void reset_selection();
-
-    // A pasted or moved image that is not yet part of the tile. It wraps:
-    // what passes one edge of the tile shows (and is stamped) at the other.
-    bool float_pending() const { return pending; }
+    // The selection and floating image drawn over the tile.
+    Tile_Selection& tile_selection() { return marks; }
+    const Tile_Selection& tile_selection() const { return marks; }
     // A copy of the tile as the user sees it drawn: with the floating image
     // put down and without the seam offset. None when that is the tile itself.
     std::unique_ptr<Tile> tile_as_shown() const;
-    void commit_float();
-    void paste(const Tile& image, int x = 0, int y = 0);
-    // The pending floating image, or none, and its place on the tile.
-    const Tile* floating_image() const { return pending ? floating.get() : nullptr; }
-    SDL_Point floating_position() const { return SDL_Point{float_x, float_y}; }
-    // Undo puts an earlier floating image back (or none) without stamping the
-    // present one.
-    void replace_float(const Tile* image, int x, int y);
-    // The floating image's corner moves to (x, y), brought onto the tile.
-    void move_float(int x, int y);
-    // Whether the tile cell lies on an opaque pixel of the floating image.
-    bool on_float(int x, int y) const;
 
     bool contains(float x, float y) const { return view.contains(x, y); }
     Cell cell_at(float x, float y) const;
@@ -103,8 +85,6 @@ private:
     void draw_edges(Main_Window& window, const Tile& m, int tx, int ty, int px, int py, bool active);
     void keep_pointer_on_tile(float x, float y);
     void frame_float(Main_Window& window);
-    void fit_float(int x, int y);
-    void resize_masks();
     void update_extent();
 
     Rectangle view;
@@ -114,14 +94,7 @@ private:
     int shown_w = 0;
     int shown_h = 0;
     std::unique_ptr<Tile> history;
-    std::unique_ptr<Tile> mask;
-    std::unique_ptr<Tile> second_mask;
-    std::unique_ptr<Tile> floating;
-    int float_x = 0;
-    int float_y = 0;
-    bool pending = false;
-    bool selection_on = false;
-    bool second_on = false;
+    Tile_Selection& marks;
     int grid_contrast = 64;
     int checker_w = 6;
     int checker_h = 6;

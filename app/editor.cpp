@@ -85,7 +85,7 @@ uint32_t button_code(Uint8 sdl_button) {
 Editor::Editor()
     : menu_bar(std::make_unique<Menu_Bar>()),
       tool_bar(std::make_unique<Tool_Bar>(0, 32, 0)),
-      canvas_view(std::make_unique<Canvas_View>(canvas_area, ui_colors[background_color_index])),
+      canvas_view(std::make_unique<Canvas_View>(canvas_area, ui_colors[background_color_index], open.selection())),
       tileset_tabs(std::make_unique<Tileset_Tabs>(Rectangle{264, 30, 512, 30})),
       stroke_change(std::make_unique<Stroke_Change>()) {
     // Nested loops paint through the backdrop, whose base is this editor.
@@ -269,16 +269,16 @@ void Editor::show_current_tile() {
     Tileset* t = open.current();
     Tile* next = t ? t->store().current_tile() : nullptr;
     Tileset* from = open.holds(shown_tileset) ? shown_tileset : nullptr;
-    const bool carried = canvas_view->float_pending() && from != t && !undo_control->replaying() &&
+    const bool carried = open.selection().float_pending() && from != t && !undo_control->replaying() &&
                          selection_tools->mode() == Selection_Tools::persistent;
     if (next != canvas_view->tile()) {
         if (carried && from) undo_control->record_float_left(*from);
         selection_tools->tile_changing();
-        if (g_options && g_options->is_on(Options::clear_selection)) canvas_view->reset_selection();
+        if (g_options && g_options->is_on(Options::clear_selection)) open.selection().clear();
     }
     canvas_view->set_tile(next);
     shown_tileset = t;
-    if (carried && t && canvas_view->float_pending()) undo_control->record(command_work_selection);
+    if (carried && t && open.selection().float_pending()) undo_control->record(command_work_selection);
 }
 
 void Editor::run_command(int command) {

@@ -215,7 +215,7 @@ int Editor::execute_tileset_command(int command) {
         case command_add_new_tile:
             if (!store.add_tile()) return refuse(full_text);
             return undo_control->record_list_change(TileListUndoNode::inserted(command, store.current_index(), store,
-                                                                               undo_control.get()));
+                                                                               &open.selection()));
         // "Undo paste tile" inserts like "Insert new tile", but only beside another tile.
         case command_undo_paste_tile:
             if (store.tile_count() < 2) return refuse(nullptr);
@@ -223,7 +223,7 @@ int Editor::execute_tileset_command(int command) {
         case command_insert_new_tile:
             if (!store.insert_tile()) return refuse(full_text);
             return undo_control->record_list_change(TileListUndoNode::inserted(command, store.current_index(), store,
-                                                                               undo_control.get()));
+                                                                               &open.selection()));
         case command_delete_tile:
         case command_undo_delete_tile: {
             // The only tile is cleared instead; clearing an empty one changes nothing.
@@ -234,13 +234,13 @@ int Editor::execute_tileset_command(int command) {
                 store.delete_tile();
                 only->update_texture();
                 return undo_control->record_list_change(
-                    TileListUndoNode::cleared(command, store, undo_control.get()));
+                    TileListUndoNode::cleared(command, store, &open.selection()));
             }
             const int place = store.current_index();
             std::unique_ptr<Tile_Uses> uses;
             std::unique_ptr<Tile> gone = store.remove_at(place, &uses);
             return undo_control->record_list_change(TileListUndoNode::removed(
-                command, place, std::move(gone), std::move(uses), store, undo_control.get()));
+                command, place, std::move(gone), std::move(uses), store, &open.selection()));
         }
         case command_map_editor: {
             const int outcome = edit_map(*t);
@@ -252,7 +252,7 @@ int Editor::execute_tileset_command(int command) {
             if (outcome != command_arrange_select) return outcome < 0 ? refuse(nullptr) : outcome;
             // The swaps are one step to undo, and the history before them stays.
             return undo_control->record_list_change(
-                TileListUndoNode::reordered(command, std::move(order), store, undo_control.get()));
+                TileListUndoNode::reordered(command, std::move(order), store, &open.selection()));
         }
         // A view only: nothing to record.
         case command_view_tile_array:
@@ -343,7 +343,7 @@ void Editor::after_command(int command) {
     if (group == group_tile_list || group == group_current_tile || scrolls) show_current_tile();
     if (scrolls) open.current()->strip().make_current_visible();
     if (commands::resets_selection_after(command) && g_options && g_options->is_on(Options::clear_selection))
-        canvas_view->reset_selection();
+        open.selection().clear();
     if (commands::saves_copy_after(command)) canvas_view->save_copy();
 }
 

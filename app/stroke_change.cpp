@@ -21,16 +21,17 @@ bool same(const Tile* tile, const std::vector<Color>& before) {
 }  // namespace
 
 void Stroke_Change::take(Canvas_View& view) {
+    const Tile_Selection& marks = view.tile_selection();
     copy_of(view.tile(), pixels);
-    copy_of(view.selection(), mask);
-    selection = view.has_selection();
-    floating = view.floating_image();
-    floating_x = view.floating_position().x;
-    floating_y = view.floating_position().y;
+    copy_of(marks.mask(), mask);
+    selection = marks.active();
+    floating = marks.floating_image();
+    floating_x = marks.float_x();
+    floating_y = marks.float_y();
 }
 
 bool Stroke_Change::changed(Canvas_View& view) const {
-    return !same(view.tile(), pixels) || !same(view.selection(), mask) || selection != view.has_selection() ||
-           floating != view.floating_image() || floating_x != view.floating_position().x ||
-           floating_y != view.floating_position().y;
+    const Tile_Selection& marks = view.tile_selection();
+    return !same(view.tile(), pixels) || !same(marks.mask(), mask) || selection != marks.active() ||
+           floating != marks.floating_image() || floating_x != marks.float_x() || floating_y != marks.float_y();
 }

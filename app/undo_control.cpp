@@ -4,6 +4,7 @@
 #include "model/core/commands.h"
 #include "app/editor.h"
 #include "app/tool_options.h"
+#include "model/selection/tile_selection.h"
 #include "model/tileset/tile_list_undo_node.h"
 #include "model/tileset/tileset.h"
 #include "app/selection/selection_tools.h"
@@ -18,7 +19,7 @@ Undo_Control::~Undo_Control() = default;
 bool Undo_Control::record(int command) {
     Tileset* t = editor.current();
     if (!t) return false;
-    const bool image = t->history().record(command, t->store(), this);
+    const bool image = t->history().record(command, t->store(), &selection());
     t->refresh_modified();
     return image;
 }
@@ -26,7 +27,7 @@ bool Undo_Control::record(int command) {
 bool Undo_Control::record_if_inverse(int command) {
     Tileset* t = editor.current();
     if (!t) return false;
-    const bool image = t->history().record_if_inverse(command, t->store(), this);
+    const bool image = t->history().record_if_inverse(command, t->store(), &selection());
     t->refresh_modified();
     return image;
 }
@@ -72,16 +73,22 @@ struct Replay {
 
 bool Undo_Control::undo() {
     Tileset* t = editor.current();
+    if (!t || t->history().position() <= 0) return false;
     const Replay replay(replay_depth);
-    if (!t || !t->history().undo(t->store(), *this)) return false;
+    choose_tool_of(t->history().command_to_undo());
+    if (!t->history().undo(t->store(), selection())) return false;
+    show_applied();
     t->refresh_modified();
     return true;
 }
 
 bool Undo_Control::redo() {
     Tileset* t = editor.current();
+    if (!t || t->history().position() < 0 || t->history().position() + 1 >= t->history().count()) return false;
     const Replay replay(replay_depth);
-    if (!t || !t->history().redo(t->store(), *this)) return false;
+    choose_tool_of(t->history().command_to_redo());
+    if (!t->history().redo(t->store(), selection())) return false;
+    show_applied();
     t->refresh_modified();
     return true;
 }
@@ -96,63 +103,19 @@ void Undo_Control::draw_meter() {
     undo_meter->draw();
 }
 
-const Tile* Undo_Control::selection_mask() const { return editor.canvas().selection(); }
+Tile_Selection& Undo_Control::selection() { return editor.tilesets().selection(); }
 
-bool Undo_Control::has_selection() const { return editor.canvas().has_selection(); }
-
-const Tile* Undo_Control::floating_area() const { return editor.canvas().floating_image(); }
-
-int Undo_Control::floating_x() const { return editor.canvas().floating_position().x; }
-
-int Undo_Control::floating_y() const { return editor.canvas().floating_position().y; }
-
-namespace {
-// Some command's inverse: "Change tile", "Delete tile", "Undo paste tile"...
-bool is_an_inverse(int command) {
-    for (int c = 0; c < command_count; ++c)
-        if (commands::inverse(c) == command) return true;
-    return false;
-}
-}  // namespace
-
-// A record's own command comes back on undo only where it undoes something (an
-// inverse) or chooses the tool that made the stroke. A command that recorded
-// itself ("Adjust HSV", "Cut", "Paste") would do its work again, open its
-// dialog or paste anew, in the middle of the history: the record's pixels are
-// the whole undo for it.
-void Undo_Control::run_command(int command) {
-    if (command < 0 || command >= command_count) return;
-    if (commands::is_tool(command) || commands::inverse(command) >= 0 || is_an_inverse(command))
-        editor.execute(command);
+// Chosen before the record is applied, as the user would choose it: leaving a
+// tool may put a floating image down, which the record then replaces.
+void Undo_Control::choose_tool_of(int command) {
+    if (command >= 0 && command < command_count && commands::is_tool(command)) editor.execute(command);
 }
 
-void Undo_Control::tile_changed() {
+// "Work selection" is chosen for a floating image that came back, except in
+// the mode that keeps images floating under every tool.
+void Undo_Control::show_applied() {
     Tileset* t = editor.current();
     editor.canvas().set_tile(t ? t->store().current_tile() : nullptr);
-}
-
-void Undo_Control::restore_selection(const Tile* mask) {
-    Canvas_View& view = editor.canvas();
-    Tile* selection = view.selection();
-    if (!mask || !selection || !mask->same_size(*selection)) {
-        view.reset_selection();
-        return;
-    }
-    mask->copy_into(*selection);
-    // A record of the selection tools may hold an empty mask: nothing selected.
-    bool any = false;
-    for (int i = 0; i < selection->pixel_count() && !any; ++i) {
-        const Color c = selection->pixels()[i];
-        any = c.blue == 255 && c.green == 255 && c.red == 255;
-    }
-    view.set_has_selection(any);
-}
-
-// A floating image that comes back is ready to be moved again: "Work
-// selection" is chosen, except in the mode that keeps images floating
-// under every tool.
-void Undo_Control::restore_floating_area(const Tile* area, int x, int y) {
-    editor.canvas().replace_float(area, x, y);
     const bool persistent = g_tool_options && g_tool_options->selection_mode() == Selection_Tools::persistent;
-    if (area && !persistent) editor.select_tool(command_work_selection);
+    if (selection().float_pending() && !persistent) editor.select_tool(command_work_selection);
 }

@@ -2,24 +2,24 @@
 
 #include <memory>
 
-#include "model/tileset/undo_target.h"
 
 class Editor;
 class TileListUndoNode;
+class Tile_Selection;
 class Tileset;
 class Undo_Meter;
 
 // The editor's side of undo: hands strokes and commands to the current
-// tileset's history, gives that history the canvas's selection and floating
-// area, carries its undo and redo commands back to the dispatch, and shows
-// the history in the undo meter and the history viewer.
-class Undo_Control : public Undo_Target {
+// tileset's history with the document's selection and floating image, shows
+// the state a record brings back on the canvas (choosing the tool that made a
+// stroke), and shows the history in the undo meter and the history viewer.
+class Undo_Control {
 public:
     static constexpr int meter_x = 28;
     static constexpr int meter_y = 250;
 
     explicit Undo_Control(Editor& editor);
-    ~Undo_Control() override;
+    ~Undo_Control();
 
     // The state after a stroke or command joins the current tileset's
     // history; an image change marks the tileset modified.
@@ -38,22 +38,19 @@ public:
     bool redo();
     void view();
     void draw_meter();
-    // True while undo or redo runs a record's commands and applies it: the
+    // True while undo or redo chooses a record's tool and applies it: the
     // record sets the tile, the selection and the floating image itself.
     bool replaying() const { return replay_depth > 0; }
     Undo_Meter& meter() { return *undo_meter; }
 
-    const Tile* selection_mask() const override;
-    bool has_selection() const override;
-    const Tile* floating_area() const override;
-    int floating_x() const override;
-    int floating_y() const override;
-    void run_command(int command) override;
-    void tile_changed() override;
-    void restore_selection(const Tile* mask) override;
-    void restore_floating_area(const Tile* area, int x, int y) override;
-
 private:
+    Tile_Selection& selection();
+    // A stroke's record chooses the tool that made it again.
+    void choose_tool_of(int command);
+    // The canvas shows the tile the record went to; a floating image that came
+    // back is ready to be moved again.
+    void show_applied();
+
     Editor& editor;
     int replay_depth = 0;
     std::unique_ptr<Undo_Meter> undo_meter;

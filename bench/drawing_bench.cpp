@@ -20,7 +20,7 @@
 #include "model/tile/tile_store.h"
 #include "model/tileset/tileset.h"
 #include "model/tileset/undo_history.h"
-#include "model/tileset/undo_target.h"
+#include "model/selection/tile_selection.h"
 #include "bench/bench_program.h"
 #include "bench/canvas_drag.h"
 #include "ui/backdrop.h"
@@ -64,29 +64,18 @@ void BM_fill_spiral_64(benchmark::State& state) {
     state.counters["wave_levels"] = deepest;
 }
 
-struct Quiet_Target : Undo_Target {
-    const Tile* selection_mask() const override { return nullptr; }
-    bool has_selection() const override { return false; }
-    const Tile* floating_area() const override { return nullptr; }
-    int floating_x() const override { return 0; }
-    int floating_y() const override { return 0; }
-    void run_command(int) override {}
-    void tile_changed() override {}
-    void restore_selection(const Tile*) override {}
-    void restore_floating_area(const Tile*, int, int) override {}
-};
-
 void BM_undo_redo_64(benchmark::State& state) {
     Tile_Store store(64, 64, 256);
     store.add_tile();
     Undo_History history;
     history.start(store);
-    Quiet_Target target;
+    Tile_Selection selection;
+    selection.follow_tile(store.current_tile());
     store.current_tile()->fill(Color(1, 2, 3));
-    history.record(command_pen, store, &target);
+    history.record(command_pen, store, &selection);
     for (auto _ : state) {
-        history.undo(store, target);
-        history.redo(store, target);
+        history.undo(store, selection);
+        history.redo(store, selection);
     }
     state.SetItemsProcessed(int64_t(state.iterations()) * 2);
 }

@@ -76,8 +76,8 @@ void BM_repaint_heaviest_canvas(benchmark::State& state) {
     view.set_pixel_size(8);
     view.centre();
     for (int y = 0; y < 64; ++y)
-        for (int x = 0; x < 32; ++x) view.selection()->set_pixel(x, y, Color(255, 255, 255));
-    view.set_has_selection(true);
+        for (int x = 0; x < 32; ++x) view.tile_selection().mask()->set_pixel(x, y, Color(255, 255, 255));
+    view.tile_selection().set_active(true);
     repaint_after(state, Change(state.range(0)));
 }
 // The default view with a 64 x 64 tile of varied colours, which the "Preview"

@@ -88,10 +88,10 @@ void BM_floating_drag_vs_pen_64_px8(benchmark::State& state) {
         g_editor->drawing().context().take_color(0, Color(200, 30, 30));
         pen = median_drag_ms();
         g_editor->undo().undo();
-        g_editor->canvas().paste(image, 0, 0);
+        g_editor->canvas().tile_selection().paste(image, 0, 0, g_editor->canvas().tile());
         g_editor->run_command(command_work_selection);
         floating = median_drag_ms();
-        g_editor->canvas().replace_float(nullptr, 0, 0);
+        g_editor->canvas().tile_selection().replace_float(nullptr, 0, 0);
         g_editor->undo().undo();
     }
     state.counters["pen_median_ms"] = pen;

@@ -22,7 +22,7 @@ void show(Selection_Tools& tools, Readout kind, int a, int b = 0) {
 }
 
 // The view's selection flag follows the mask after every change.
-void selection_changed(Canvas_View& view) { view.set_has_selection(mask_ops::any_selected(*view.selection())); }
+void selection_changed(Canvas_View& view) { view.tile_selection().set_active(mask_ops::any_selected(*view.tile_selection().mask())); }
 
 std::unique_ptr<Tile> pixels_of(const Tile& t) {
     auto c = std::make_unique<Tile>(t.width(), t.height());
@@ -40,8 +40,8 @@ void Shape_Select_Stroke::begin(Canvas_View& view, Cell& start, int button) {
     (void)start;
     tools.put_down();
     op = select_op(button, shift_held());
-    view.drawn_selection()->fill(mask_ops::unselected);
-    view.set_drawing_selection(true);
+    view.tile_selection().drawn_mask()->fill(mask_ops::unselected);
+    view.tile_selection().set_drawing(true);
 }
 
 void Shape_Select_Stroke::paint(Tile& mask, Cell from, Cell to, bool add) const {
@@ -53,7 +53,7 @@ void Shape_Select_Stroke::paint(Tile& mask, Cell from, Cell to, bool add) const 
 
 void Shape_Select_Stroke::apply(Canvas_View& view, Cell from, Cell to, int button) {
     (void)button;
-    Tile& drawn = *view.drawn_selection();
+    Tile& drawn = *view.tile_selection().drawn_mask();
     drawn.fill(mask_ops::unselected);
     paint(drawn, from, to, true);
     const int dx = std::abs(to.x - from.x);
@@ -70,9 +70,9 @@ void Shape_Select_Stroke::apply(Canvas_View& view, Cell from, Cell to, int butto
 
 void Shape_Select_Stroke::finish(Canvas_View& view, Cell start, Cell end, int button, bool dragged) {
     (void)button;
-    view.drawn_selection()->fill(mask_ops::unselected);
-    view.set_drawing_selection(false);
-    Tile& mask = *view.selection();
+    view.tile_selection().drawn_mask()->fill(mask_ops::unselected);
+    view.tile_selection().set_drawing(false);
+    Tile& mask = *view.tile_selection().mask();
     if (op == Select_Op::replace) mask_ops::clear(mask);
     // A plain click only deselects; with Shift or the right button it works on the cell.
     if (dragged || op != Select_Op::replace) paint(mask, start, end, op != Select_Op::remove);
@@ -87,7 +87,7 @@ void Brush_Select_Stroke::begin(Canvas_View& view, Cell& start, int button) {
 }
 
 void Brush_Select_Stroke::apply(Canvas_View& view, Cell from, Cell to, int button) {
-    Tile& mask = *view.selection();
+    Tile& mask = *view.tile_selection().mask();
     const Color c = button == Editor::button_right ? mask_ops::unselected : mask_ops::selected;
     Footprint& covered = tools.footprint;
     covered.reset(mask.width(), mask.height());
@@ -108,7 +108,7 @@ void Wand_Stroke::begin(Canvas_View& view, Cell& start, int button) {
 void Wand_Stroke::apply(Canvas_View& view, Cell from, Cell to, int button) {
     (void)to;
     const Tile* tile = view.tile();
-    Tile& mask = *view.selection();
+    Tile& mask = *view.tile_selection().mask();
     const Select_Op op = select_op(button, shift);
     if (op == Select_Op::replace) mask_ops::clear(mask);
     if (tile) mask_ops::apply_wand(mask, *tile, tools.grid, from.x, from.y, op != Select_Op::remove);
@@ -121,24 +121,24 @@ void Work_Stroke::begin(Canvas_View& view, Cell& start, int button) {
     Tile* tile = view.tile();
     if (!tile) return;
     bool centre_on_pointer = false;
-    if (view.float_pending()) {
-        if (!view.on_float(start.x, start.y)) {
+    if (view.tile_selection().float_pending()) {
+        if (!view.tile_selection().on_float(start.x, start.y)) {
             // Clone: a copy stays where the image stood.
-            const SDL_Point at = view.floating_position();
-            floating::stamp_wrapped(*tile, *view.floating_image(), at.x, at.y);
+            const SDL_Point at{view.tile_selection().float_x(), view.tile_selection().float_y()};
+            floating::stamp_wrapped(*tile, *view.tile_selection().floating_image(), at.x, at.y);
             tile->update_texture();
             centre_on_pointer = true;
         }
-    } else if (view.has_selection()) {
-        const bool inside = mask_ops::is_selected(*view.selection(), start.x, start.y);
+    } else if (view.tile_selection().active()) {
+        const bool inside = mask_ops::is_selected(*view.tile_selection().mask(), start.x, start.y);
         tools.float_selection(inside && tools.mode() != Selection_Tools::fixed);
         centre_on_pointer = !inside;
     } else {
         return;
     }
-    const Tile& image = *view.floating_image();
-    if (centre_on_pointer) view.move_float(start.x - image.width() / 2, start.y - image.height() / 2);
-    const SDL_Point at = view.floating_position();
+    const Tile& image = *view.tile_selection().floating_image();
+    if (centre_on_pointer) view.tile_selection().move_float(start.x - image.width() / 2, start.y - image.height() / 2);
+    const SDL_Point at{view.tile_selection().float_x(), view.tile_selection().float_y()};
     grab_x = start.x - at.x;
     grab_y = start.y - at.y;
     moving = true;
@@ -148,7 +148,7 @@ void Work_Stroke::apply(Canvas_View& view, Cell from, Cell to, int button) {
     (void)from;
     (void)button;
     if (!moving) return;
-    view.move_float(to.x - grab_x, to.y - grab_y);
+    view.tile_selection().move_float(to.x - grab_x, to.y - grab_y);
     show(tools, Readout::location, to.x, to.y);
 }
 
@@ -167,12 +167,12 @@ void Scroll_Stroke::apply(Canvas_View& view, Cell from, Cell to, int button) {
     const int dx = to.x - from.x;
     const int dy = to.y - from.y;
     if (!tile || (dx == 0 && dy == 0)) return;
-    if (view.float_pending()) {
-        const SDL_Point at = view.floating_position();
-        view.move_float(at.x + dx, at.y + dy);
+    if (view.tile_selection().float_pending()) {
+        const SDL_Point at{view.tile_selection().float_x(), view.tile_selection().float_y()};
+        view.tile_selection().move_float(at.x + dx, at.y + dy);
     } else {
         floating::scroll_wrapped(*tile, dx, dy);
-        if (view.has_selection()) floating::scroll_wrapped(*view.selection(), dx, dy);
+        if (view.tile_selection().active()) floating::scroll_wrapped(*view.tile_selection().mask(), dx, dy);
         tile->update_texture();
     }
     total_x += dx;
@@ -191,7 +191,7 @@ void Rotate_Stroke::begin(Canvas_View& view, Cell& start, int button) {
     Tile* tile = view.tile();
     if (!tile) return;
     source = pixels_of(*tile);
-    source_mask = view.has_selection() ? pixels_of(*view.selection()) : nullptr;
+    source_mask = view.tile_selection().active() ? pixels_of(*view.tile_selection().mask()) : nullptr;
     const Rectangle box = source_mask ? mask_ops::bounds(*source_mask) : Rectangle{0, 0, tile->width(), tile->height()};
     centre_x = box.x + (box.width - 1) / 2.0;
     centre_y = box.y + (box.height - 1) / 2.0;
@@ -209,7 +209,7 @@ void Rotate_Stroke::apply(Canvas_View& view, Cell from, Cell to, int button) {
     if (degrees > 180) degrees -= 360;
     if (degrees <= -180) degrees += 360;
     rotate_nearest(*source, *tile, degrees, source_mask.get());
-    if (source_mask) rotate_nearest(*source_mask, *view.selection(), degrees, source_mask.get());
+    if (source_mask) rotate_nearest(*source_mask, *view.tile_selection().mask(), degrees, source_mask.get());
     tile->update_texture();
     show(tools, Readout::degrees, int(std::lround(degrees)));
 }

@@ -41,6 +41,8 @@ Selection_Tools::~Selection_Tools() {
 
 Canvas_View& Selection_Tools::canvas() { return editor.canvas(); }
 
+Tile_Selection& Selection_Tools::marks() { return editor.tilesets().selection(); }
+
 int Selection_Tools::mode() const { return g_tool_options ? g_tool_options->selection_mode() : standard; }
 
 bool Selection_Tools::handles(int command) {
@@ -66,8 +68,8 @@ int Selection_Tools::execute(int command) {
         case command_deselect: return deselect();
         case command_invert_selection:
             put_down();
-            mask_ops::invert(*canvas().selection());
-            canvas().set_has_selection(mask_ops::any_selected(*canvas().selection()));
+            mask_ops::invert(*marks().mask());
+            marks().set_active(mask_ops::any_selected(*marks().mask()));
             return record(command);
         case command_fill: return fill(false);
         case command_clear: return fill(true);
@@ -94,16 +96,17 @@ int Selection_Tools::record(int command) {
 
 std::unique_ptr<Tile> Selection_Tools::selection_image() const {
     Canvas_View& view = editor.canvas();
-    if (const Tile* f = view.floating_image()) {
+    const Tile_Selection& marks = view.tile_selection();
+    if (const Tile* f = marks.floating_image()) {
         auto image = std::make_unique<Tile>(f->width(), f->height());
         f->copy_into(*image);
         return image;
     }
-    if (!view.has_selection() || !view.tile()) return nullptr;
-    return selected_pixels(*view.tile(), *view.selection());
+    if (!marks.active() || !view.tile()) return nullptr;
+    return selected_pixels(*view.tile(), *marks.mask());
 }
 
-void Selection_Tools::put_down() { canvas().commit_float(); }
+void Selection_Tools::put_down() { marks().commit(canvas().tile()); }
 
 void Selection_Tools::leaving_work_selection() {
     if (editor.undo().replaying() || mode() == persistent) return;
@@ -114,7 +117,7 @@ void Selection_Tools::leaving_work_selection() {
 // other tiles know nothing of it, so without this step a redo across the
 // change of tile would drop the image instead of putting it down.
 void Selection_Tools::tile_changing() {
-    if (editor.undo().replaying() || mode() == persistent || !canvas().float_pending()) return;
+    if (editor.undo().replaying() || mode() == persistent || !marks().float_pending()) return;
     put_down();
     editor.undo().record_put_down();
 }
@@ -122,31 +125,30 @@ void Selection_Tools::tile_changing() {
 bool Selection_Tools::float_selection(bool lift) {
     Canvas_View& view = canvas();
     Tile* tile = view.tile();
-    if (!tile || !view.has_selection()) return false;
+    if (!tile || !marks().active()) return false;
     int x = 0;
     int y = 0;
     std::unique_ptr<Tile> image;
     if (lift) {
-        image = floating::lift(*tile, *view.selection(), x, y);
+        image = floating::lift(*tile, *marks().mask(), x, y);
         tile->update_texture();
     } else {
-        image = selected_pixels(*tile, *view.selection());
-        const Rectangle box = mask_ops::bounds(*view.selection());
+        image = selected_pixels(*tile, *marks().mask());
+        const Rectangle box = mask_ops::bounds(*marks().mask());
         x = box.x;
         y = box.y;
     }
     if (!image) return false;
-    view.reset_selection();
-    view.paste(*image, x, y);
+    marks().clear();
+    marks().paste(*image, x, y, view.tile());
     return true;
 }
 
 // Space puts a floating image down and drops the selection.
 int Selection_Tools::deselect() {
-    Canvas_View& view = canvas();
-    if (!view.has_selection() && !view.float_pending()) return -1;
+    if (!marks().active() && !marks().float_pending()) return -1;
     put_down();
-    view.reset_selection();
+    marks().clear();
     return record(command_deselect);
 }
 
@@ -155,12 +157,12 @@ int Selection_Tools::deselect() {
 int Selection_Tools::fill(bool transparent) {
     Canvas_View& view = canvas();
     const int command = transparent ? command_clear : command_fill;
-    if (transparent && view.float_pending()) {
-        view.replace_float(nullptr, 0, 0);
+    if (transparent && marks().float_pending()) {
+        marks().replace_float(nullptr, 0, 0);
     } else {
-        if (!view.has_selection()) return refuse(transparent ? clear_refused : fill_refused);
+        if (!marks().active()) return refuse(transparent ? clear_refused : fill_refused);
         const Color c = transparent ? Color(0, 0, 0, 0) : editor.drawing().refresh().left_color;
-        mask_ops::fill_selected(*view.tile(), *view.selection(), c);
+        mask_ops::fill_selected(*view.tile(), *marks().mask(), c);
         view.tile()->update_texture();
     }
     return record(command);
@@ -168,23 +170,23 @@ int Selection_Tools::fill(bool transparent) {
 
 int Selection_Tools::copy() {
     Canvas_View& view = canvas();
-    if (const Tile* f = view.floating_image()) {
-        const SDL_Point at = view.floating_position();
+    if (const Tile* f = marks().floating_image()) {
+        const SDL_Point at{marks().float_x(), marks().float_y()};
         copies.keep(*f, at.x, at.y, view.tile()->width(), view.tile()->height());
         return command_copy;
     }
-    if (!view.has_selection() || !copies.copy(*view.tile(), *view.selection())) return refuse(copy_refused);
+    if (!marks().active() || !copies.copy(*view.tile(), *marks().mask())) return refuse(copy_refused);
     return command_copy;
 }
 
 int Selection_Tools::cut() {
     Canvas_View& view = canvas();
-    if (!view.has_selection() && !view.float_pending()) return refuse(cut_refused);
+    if (!marks().active() && !marks().float_pending()) return refuse(cut_refused);
     copy();
-    if (view.float_pending()) {
-        view.replace_float(nullptr, 0, 0);
+    if (marks().float_pending()) {
+        marks().replace_float(nullptr, 0, 0);
     } else {
-        mask_ops::fill_selected(*view.tile(), *view.selection(), Color(0, 0, 0, 0));
+        mask_ops::fill_selected(*view.tile(), *marks().mask(), Color(0, 0, 0, 0));
         view.tile()->update_texture();
     }
     return record(command_cut);
@@ -198,13 +200,13 @@ int Selection_Tools::paste() {
     if (!image) return refuse(paste_refused);
     const Tile& tile = *view.tile();
     if (copies.source_tile_width() == tile.width() && copies.source_tile_height() == tile.height()) {
-        view.paste(*image, copies.source().x, copies.source().y);
+        marks().paste(*image, copies.source().x, copies.source().y, view.tile());
     } else {
         const int style = g_options ? g_options->get(Options::clone_style) : Copy_Buffer::centre;
         const Placement p = copies.place(tile.width(), tile.height(), style);
-        view.paste(*p.image, p.x, p.y);
+        marks().paste(*p.image, p.x, p.y, view.tile());
     }
-    view.reset_selection();
+    marks().clear();
     editor.select_tool(command_work_selection);
     editor.undo().record(command_work_selection);
     return command_paste;
@@ -214,8 +216,8 @@ int Selection_Tools::paste() {
 // selection is copied into a floating image at its place, ready to be moved.
 int Selection_Tools::clone() {
     Canvas_View& view = canvas();
-    if (const Tile* f = view.floating_image()) {
-        const SDL_Point at = view.floating_position();
+    if (const Tile* f = marks().floating_image()) {
+        const SDL_Point at{marks().float_x(), marks().float_y()};
         floating::stamp_wrapped(*view.tile(), *f, at.x, at.y);
         view.tile()->update_texture();
     } else if (!float_selection(false)) {
@@ -228,7 +230,7 @@ int Selection_Tools::clone() {
 int Selection_Tools::smooth() {
     Canvas_View& view = canvas();
     put_down();
-    if (anti_alias(*view.tile(), view.has_selection() ? view.selection() : nullptr) == 0) {
+    if (anti_alias(*view.tile(), marks().active() ? marks().mask() : nullptr) == 0) {
         return refuse(smooth_refused);
     }
     view.tile()->update_texture();

@@ -9,6 +9,7 @@
 
 class Editor;
 class Canvas_View;
+class Tile_Selection;
 class Tile;
 
 // The selection on the canvas: the selector, move, scroll and rotate strokes
@@ -38,6 +39,8 @@ public:
 
     Copy_Buffer& buffer() { return copies; }
     Canvas_View& canvas();
+    // The document's selection and floating image, which the canvas shows.
+    Tile_Selection& marks();
     Editor& owner() { return editor; }
     int mode() const;
 

@@ -6,8 +6,8 @@
 void Stroke_Context::prepare(Canvas_View& view) {
     if (gather) settings = gather();
     painter.set_target(view.tile());
-    painter.set_mask(view.selection());
-    painter.set_clip(view.has_selection());
+    painter.set_mask(view.tile_selection().mask());
+    painter.set_clip(view.tile_selection().active());
 }
 
 void Stroke_Context::take_color(int index, Color c) {

@@ -4,7 +4,7 @@
 
 #include "model/tile/tile.h"
 #include "model/tile/tile_store.h"
-#include "model/tileset/undo_target.h"
+#include "model/selection/tile_selection.h"
 
 namespace {
 // Puts the tiles back into the order they had before a reordering (back),
@@ -30,11 +30,11 @@ void arrange(Tile_Store& store, const std::vector<int>& order, bool back) {
 }  // namespace
 
 TileListUndoNode::TileListUndoNode(int32_t command, Kind kind, int place, const Tile_Store& store,
-                                   const Undo_Target* target)
+                                   const Tile_Selection* selection)
     : ImageUndoNode(command, store.current_index(), *store.tile_at(store.current_index()),
-                    target && target->has_selection() ? target->selection_mask() : nullptr,
-                    target ? target->floating_area() : nullptr, target ? target->floating_x() : 0,
-                    target ? target->floating_y() : 0),
+                    selection && selection->active() ? selection->mask() : nullptr,
+                    selection ? selection->floating_image() : nullptr, selection ? selection->float_x() : 0,
+                    selection ? selection->float_y() : 0),
       change(kind),
       place(place) {
     // A tile-list record runs no command on undo or redo: it holds the change.
@@ -45,30 +45,30 @@ TileListUndoNode::TileListUndoNode(int32_t command, Kind kind, int place, const 
 TileListUndoNode::~TileListUndoNode() = default;
 
 std::unique_ptr<TileListUndoNode> TileListUndoNode::inserted(int32_t command, int place, const Tile_Store& store,
-                                                             const Undo_Target* target) {
-    return std::unique_ptr<TileListUndoNode>(new TileListUndoNode(command, Kind::inserted, place, store, target));
+                                                             const Tile_Selection* selection) {
+    return std::unique_ptr<TileListUndoNode>(new TileListUndoNode(command, Kind::inserted, place, store, selection));
 }
 
 std::unique_ptr<TileListUndoNode> TileListUndoNode::removed(int32_t command, int place, std::unique_ptr<Tile> tile,
                                                             std::unique_ptr<Tile_Uses> tile_uses,
-                                                            const Tile_Store& store, const Undo_Target* target) {
+                                                            const Tile_Store& store, const Tile_Selection* selection) {
     auto node =
-        std::unique_ptr<TileListUndoNode>(new TileListUndoNode(command, Kind::removed, place, store, target));
+        std::unique_ptr<TileListUndoNode>(new TileListUndoNode(command, Kind::removed, place, store, selection));
     node->taken = std::move(tile);
     node->uses = std::move(tile_uses);
     return node;
 }
 
 std::unique_ptr<TileListUndoNode> TileListUndoNode::cleared(int32_t command, const Tile_Store& store,
-                                                            const Undo_Target* target) {
-    return std::unique_ptr<TileListUndoNode>(new TileListUndoNode(command, Kind::cleared, 0, store, target));
+                                                            const Tile_Selection* selection) {
+    return std::unique_ptr<TileListUndoNode>(new TileListUndoNode(command, Kind::cleared, 0, store, selection));
 }
 
 std::unique_ptr<TileListUndoNode> TileListUndoNode::reordered(int32_t command, std::vector<int> order,
                                                               const Tile_Store& store,
-                                                              const Undo_Target* target) {
+                                                              const Tile_Selection* selection) {
     auto node = std::unique_ptr<TileListUndoNode>(
-        new TileListUndoNode(command, Kind::reordered, store.current_index(), store, target));
+        new TileListUndoNode(command, Kind::reordered, store.current_index(), store, selection));
     node->order = std::move(order);
     return node;
 }

@@ -6,6 +6,7 @@
 #include <string>
 #include <vector>
 
+#include "model/selection/tile_selection.h"
 #include "model/tileset/tileset.h"
 
 // The open tilesets, one of them current. Once the first tileset is made, one
@@ -39,6 +40,11 @@ public:
     int count() const { return static_cast<int>(tilesets.size()); }
     Tileset& at(int index) { return *tilesets[static_cast<size_t>(index)]; }
     int next_untitled_number() const { return untitled_counter; }
+    // The selection and floating image of the tile being edited: one for all
+    // open tilesets, since one tile is edited at a time; it follows that tile,
+    // and a floating image may be carried from one tileset to another.
+    Tile_Selection& selection() { return tile_selection; }
+    const Tile_Selection& selection() const { return tile_selection; }
 
     // The "Close" question for a modified tileset; when none is connected the
     // question cannot be asked and the tileset stays open.
@@ -62,4 +68,5 @@ private:
     std::vector<std::unique_ptr<Tileset>> tilesets;
     Tileset* current_tileset = nullptr;
     int untitled_counter = 1;
+    Tile_Selection tile_selection;
 };

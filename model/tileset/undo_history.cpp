@@ -2,7 +2,7 @@
 
 #include "model/core/commands.h"
 #include "model/tile/tile_store.h"
-#include "model/tileset/undo_target.h"
+#include "model/selection/tile_selection.h"
 
 namespace {
 // Unique across tilesets, so no two states of any history share a stamp by chance.
@@ -17,16 +17,16 @@ uint64_t Undo_History::content_stamp() const {
 
 Undo_History::~Undo_History() = default;
 
-bool Undo_History::record(int command, Tile_Store& store, const Undo_Target* target) {
+bool Undo_History::record(int command, Tile_Store& store, const Tile_Selection* selection) {
     if (command < 0 || command >= command_count) return false;
     const Tile* tile = store.current_tile();
     if (!tile) return false;
     const int index = store.current_index();
     const int group = commands::group(command);
     const int inverse = commands::inverse(command);
-    const Tile* area = target ? target->floating_area() : nullptr;
-    const int area_x = area ? target->floating_x() : 0;
-    const int area_y = area ? target->floating_y() : 0;
+    const Tile* area = selection ? selection->floating_image() : nullptr;
+    const int area_x = area ? selection->float_x() : 0;
+    const int area_y = area ? selection->float_y() : 0;
     if (inverse >= 0) {
         // A floating image carried along to another tile is part of the state.
         // An image carried along to the other tile left its own: a change of contents.
@@ -36,22 +36,22 @@ bool Undo_History::record(int command, Tile_Store& store, const Undo_Target* tar
     }
     if (command == command_work_selection) {
         if (!area) return false;
-        const Tile* mask = target->has_selection() ? target->selection_mask() : nullptr;
+        const Tile* mask = selection->active() ? selection->mask() : nullptr;
         push(std::make_unique<PasteUndoNode>(index, *tile, mask, *area, area_x, area_y), true);
         return true;
     }
     if (group != group_image && group != group_selection) return false;
-    const bool with_mask = target && (group == group_selection || target->has_selection());
-    const Tile* mask = with_mask ? target->selection_mask() : nullptr;
+    const bool with_mask = selection && (group == group_selection || selection->active());
+    const Tile* mask = with_mask ? selection->mask() : nullptr;
     // "Fill" and "Clear" are selection commands that change pixels.
     const bool content = group == group_image || command == command_fill || command == command_clear;
     push(std::make_unique<ImageUndoNode>(command, index, *tile, mask, area, area_x, area_y), content);
     return content;
 }
 
-bool Undo_History::record_if_inverse(int command, Tile_Store& store, const Undo_Target* target) {
+bool Undo_History::record_if_inverse(int command, Tile_Store& store, const Tile_Selection* selection) {
     if (command < 0 || command >= command_count || commands::inverse(command) < 0) return false;
-    return record(command, store, target);
+    return record(command, store, selection);
 }
 
 void Undo_History::start(Tile_Store& store) {
@@ -84,27 +84,30 @@ void Undo_History::push(std::unique_ptr<Undo_Node> record, bool content_change) 
     current = count() - 1;
 }
 
-bool Undo_History::undo(Tile_Store& store, Undo_Target& target) {
+bool Undo_History::undo(Tile_Store& store, Tile_Selection& selection) {
     if (current <= 0) return false;
     const Undo_Node& shown = *records[size_t(current)];
-    // A change of the tile list is taken back from what its record holds.
-    if (shown.holds_change())
-        shown.revert(store);
-    else if (shown.undo_command() >= 0)
-        target.run_command(shown.undo_command());
+    // A change of the tile list is taken back from what its record holds;
+    // every other change is undone by the earlier record's copy alone.
+    if (shown.holds_change()) shown.revert(store);
     --current;
-    records[size_t(current)]->apply(store, target);
+    records[size_t(current)]->apply(store, selection);
     return true;
 }
 
-bool Undo_History::redo(Tile_Store& store, Undo_Target& target) {
+bool Undo_History::redo(Tile_Store& store, Tile_Selection& selection) {
     if (current < 0 || current + 1 >= count()) return false;
     ++current;
     const Undo_Node& next = *records[size_t(current)];
-    if (next.holds_change())
-        next.reapply(store);
-    else if (next.redo_command() >= 0)
-        target.run_command(next.redo_command());
-    records[size_t(current)]->apply(store, target);
+    if (next.holds_change()) next.reapply(store);
+    next.apply(store, selection);
     return true;
+}
+
+int32_t Undo_History::command_to_undo() const {
+    return current > 0 ? records[size_t(current)]->undo_command() : -1;
+}
+
+int32_t Undo_History::command_to_redo() const {
+    return current >= 0 && current + 1 < count() ? records[size_t(current + 1)]->redo_command() : -1;
 }

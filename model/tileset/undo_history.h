@@ -7,7 +7,7 @@
 #include "model/tileset/undo_node.h"
 
 class Tile_Store;
-class Undo_Target;
+class Tile_Selection;
 
 // A tileset's short list of states, oldest first, with the position of the
 // state shown. Undo steps back and restores the earlier state; redo steps
@@ -25,10 +25,10 @@ public:
     // copy of the current tile under its inverse; image and selection
     // commands under their own number, with the selection mask when the
     // selection counts; "Work selection" records the floating area. True when
-    // the command changed the tile's image. No target: nothing selected.
-    bool record(int command, Tile_Store& store, const Undo_Target* target);
+    // the command changed the tile's image. No selection: nothing selected.
+    bool record(int command, Tile_Store& store, const Tile_Selection* selection);
     // record, only for a command that has an inverse; false otherwise.
-    bool record_if_inverse(int command, Tile_Store& store, const Undo_Target* target);
+    bool record_if_inverse(int command, Tile_Store& store, const Tile_Selection* selection);
     // A record made by its command itself (a change of the tile list, a
     // floating image put down or carried away); content_change says whether
     // it changed what the tileset holds.
@@ -42,8 +42,13 @@ public:
     void restart(Tile_Store& store);
     void clear();
 
-    bool undo(Tile_Store& store, Undo_Target& target);
-    bool redo(Tile_Store& store, Undo_Target& target);
+    // Steps back (or forward) and applies the record reached: the tile, its
+    // place in the list, the selection and the floating image come back.
+    bool undo(Tile_Store& store, Tile_Selection& selection);
+    bool redo(Tile_Store& store, Tile_Selection& selection);
+    // The command of the step undo would take back, or redo make again; -1 for none.
+    int32_t command_to_undo() const;
+    int32_t command_to_redo() const;
 
     int32_t capacity() const { return maximum; }
     int count() const { return int(records.size()); }

@@ -3,7 +3,7 @@
 #include "model/core/commands.h"
 #include "model/tile/tile.h"
 #include "model/tile/tile_store.h"
-#include "model/tileset/undo_target.h"
+#include "model/selection/tile_selection.h"
 
 std::unique_ptr<Tile> copy_of(const Tile& source) {
     auto copy = std::make_unique<Tile>(source.width(), source.height());
@@ -32,14 +32,14 @@ ImageUndoNode::ImageUndoNode(int32_t command, int32_t tile_index, const Tile& ti
 
 ImageUndoNode::~ImageUndoNode() = default;
 
-void ImageUndoNode::apply(Tile_Store& store, Undo_Target& target) const {
+void ImageUndoNode::apply(Tile_Store& store, Tile_Selection& marks) const {
     go_to_tile(store);
     Tile* current = store.current_tile();
     // The history is emptied whenever the tile size changes, so the sizes match.
     if (current) image->copy_into(*current);
-    target.tile_changed();
-    target.restore_selection(selection.get());
-    target.restore_floating_area(floating.get(), area_x, area_y);
+    marks.follow_tile(current);
+    marks.restore_mask(selection.get());
+    marks.replace_float(floating.get(), area_x, area_y);
 }
 
 void ImageUndoNode::draw(int at_x, int at_y) const {

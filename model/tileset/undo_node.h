@@ -5,13 +5,14 @@
 
 class Tile;
 class Tile_Store;
-class Undo_Target;
+class Tile_Selection;
 
 // A copy of a tile with its own texture, as records keep them.
 std::unique_ptr<Tile> copy_of(const Tile& source);
 
-// One state of a tileset in its undo history. The undo command runs before
-// stepping back over the record, the redo command when stepping onto it.
+// One state of a tileset in its undo history. Applying a record brings the
+// tile, the selection and the floating image back; its undo and redo commands
+// only name what the user did (a tool's command chooses that tool again).
 class Undo_Node {
 public:
     // The redo command is the command table's inverse of the undo command.
@@ -20,8 +21,8 @@ public:
     Undo_Node(const Undo_Node&) = delete;
     Undo_Node& operator=(const Undo_Node&) = delete;
 
-    // Brings the tileset back to this record's state.
-    virtual void apply(Tile_Store& store, Undo_Target& target) const = 0;
+    // Brings the tileset and the selection back to this record's state.
+    virtual void apply(Tile_Store& store, Tile_Selection& selection) const = 0;
     // The record's picture with its top-left corner at (x, y).
     virtual void draw(int x, int y) const = 0;
     // A record that holds its change itself (a change of the tile list) takes
@@ -60,7 +61,7 @@ public:
                   const Tile* floating = nullptr, int floating_x = 0, int floating_y = 0);
     ~ImageUndoNode() override;
 
-    void apply(Tile_Store& store, Undo_Target& target) const override;
+    void apply(Tile_Store& store, Tile_Selection& selection) const override;
     // With a mask, the unselected pixels are shown faded.
     void draw(int x, int y) const override;
 

@@ -150,9 +150,9 @@ TEST_F(BrushPad, UseAsBrushMoveToPadAndDeleteBrushWithTheirRefusals) {
         for (int x = 0; x < 3; ++x)
             if (brush->get_pixel(x, y) != clear) {
                 view.tile()->set_pixel(20 + x, 20 + y, brush->get_pixel(x, y));
-                view.selection()->set_pixel(20 + x, 20 + y, white);
+                view.tile_selection().mask()->set_pixel(20 + x, 20 + y, white);
             }
-    view.set_has_selection(true);
+    view.tile_selection().set_active(true);
     EXPECT_EQ(g_editor->execute(command_use_as_brush), command_use_as_brush);
     g_editor->execute(command_deselect);
 

@@ -54,8 +54,8 @@ TEST_F(Drawing, ThePenIsClippedToTheSelection) {
     use_tool(command_pen);
     set_colors(red, blue);
     Canvas_View& view = g_editor->canvas();
-    for (int x = 0; x < 4; ++x) view.selection()->set_pixel(x, 5, white);
-    view.set_has_selection(true);
+    for (int x = 0; x < 4; ++x) view.tile_selection().mask()->set_pixel(x, 5, white);
+    view.tile_selection().set_active(true);
     stroke({{0, 5}, {10, 5}});
     for (int x = 0; x < 4; ++x) EXPECT_EQ(tile().get_pixel(x, 5), red) << x;
     for (int x = 4; x <= 10; ++x) EXPECT_EQ(tile().get_pixel(x, 5), Color()) << x;

@@ -59,15 +59,15 @@ TEST_F(KeptFrame, EveryRepaintLooksLikeARepaintOfEverything) {
     use_tool(command_dropper);
     expect_as_full_repaint("another tool");
     Canvas_View& view = g_editor->canvas();
-    for (int x = 0; x < 5; ++x) view.selection()->set_pixel(x, 2, Color(255, 255, 255));
-    view.set_has_selection(true);
+    for (int x = 0; x < 5; ++x) view.tile_selection().mask()->set_pixel(x, 2, Color(255, 255, 255));
+    view.tile_selection().set_active(true);
     expect_as_full_repaint("a selection");
     SDL_Event wheel{};
     wheel.type = SDL_EVENT_MOUSE_WHEEL;
     wheel.wheel.y = 1;
     g_editor->handle(wheel);
     expect_as_full_repaint("a zoom");
-    view.set_has_selection(false);
+    view.tile_selection().set_active(false);
     move_to(5, 5);
     expect_as_full_repaint("the selection gone and the pointer on the menu bar");
 }

@@ -161,7 +161,7 @@ TEST_F(NothingLostTest, AFatalReadErrorKeepsTheUnsavedTilesetsFirst) {
     g_editor->tilesets().at(0).map().place(4, 5, 1);
     Tile dot(2, 2);
     dot.fill(Color(1, 2, 3));
-    g_editor->canvas().paste(dot, 3, 3);
+    g_editor->canvas().tile_selection().paste(dot, 3, 3, g_editor->canvas().tile());
     g_editor->undo().record(command_work_selection);
     ASSERT_TRUE(g_editor->current()->is_modified());
 

@@ -180,7 +180,7 @@ protected:
         for (int tries = 0; tries < 40 && pick(4) != 0; ++tries) {
             const int x = pick(tile->width());
             const int y = pick(tile->height());
-            if (view.on_float(x, y) || (view.has_selection() && view.selection()->is_white(x, y))) {
+            if (view.tile_selection().on_float(x, y) || (view.tile_selection().active() && view.tile_selection().mask()->is_white(x, y))) {
                 from = cell_point(x, y);
                 break;
             }
@@ -375,7 +375,7 @@ TEST_F(Checker, UndoRedoSaveAndLoadGiveBackWhatTheUserSaw) {
                          ", record " + std::to_string(t.history().position()) + " of " +
                          std::to_string(t.history().count()) + ", step " + std::to_string(track.at) + " of " +
                          std::to_string(track.steps.size()) +
-                         (g_editor->canvas().float_pending() ? ", floating" : ""));
+                         (g_editor->canvas().tile_selection().float_pending() ? ", floating" : ""));
         if (recent.size() > 12) recent.pop_front();
         const Seen before = op < 18 ? seen(t) : Seen{};
         if (std::getenv("MOSSWICK_CHECKER_TRACE")) std::fprintf(stderr, "%s\n", recent.back().c_str());

@@ -131,22 +131,22 @@ TEST_F(SeamsTest, SaveWritesAFloatingImageWhereItIsSeenAndTabsKeepTheirTiles) {
     for (int y = 0; y < 2; ++y)
         for (int x = 0; x < 2; ++x) {
             store().current_tile()->set_pixel(x, y, red);
-            view.selection()->set_pixel(x, y, Color(255, 255, 255));
+            view.tile_selection().mask()->set_pixel(x, y, Color(255, 255, 255));
         }
-    view.set_has_selection(true);
+    view.tile_selection().set_active(true);
     ASSERT_TRUE(g_editor->selection().float_selection(true));
-    view.move_float(10, 10);
+    view.tile_selection().move_float(10, 10);
     g_editor->undo().record(command_work_selection);
     ASSERT_TRUE(tileset().is_modified());
     const fs::path path = dir.path / "moved.wst";
     save_as(path);
     EXPECT_FALSE(tileset().is_modified());
-    EXPECT_TRUE(view.float_pending()) << "the image still floats, ready to move";
+    EXPECT_TRUE(view.tile_selection().float_pending()) << "the image still floats, ready to move";
     const std::unique_ptr<Tile_Store> saved = Tileset_File::read(path.string());
     ASSERT_NE(saved, nullptr);
     EXPECT_EQ(saved->tile_at(0)->get_pixel(10, 10), red);
     EXPECT_EQ(saved->tile_at(0)->get_pixel(0, 0), Color(0, 0, 0, 0)) << "lifted from there";
-    view.move_float(12, 12);
+    view.tile_selection().move_float(12, 12);
     g_editor->undo().record(command_work_selection);
     EXPECT_TRUE(tileset().is_modified()) << "Quit and Close warn again";
 
@@ -161,13 +161,13 @@ TEST_F(SeamsTest, SaveWritesAFloatingImageWhereItIsSeenAndTabsKeepTheirTiles) {
     g_editor->tilesets().make_current(second);
     EXPECT_EQ(second.store().current_index(), 1);
     EXPECT_EQ(view.tile(), second.store().tile_at(1));
-    ASSERT_TRUE(view.float_pending());
+    ASSERT_TRUE(view.tile_selection().float_pending());
     run(command_deselect);
     EXPECT_EQ(second.store().tile_at(1)->get_pixel(12, 12), red);
     // Each tab's history holds its side: undo in the first brings the image back there.
     g_editor->tilesets().make_current(first);
     run(command_undo);
-    EXPECT_TRUE(view.float_pending());
+    EXPECT_TRUE(view.tile_selection().float_pending());
 }
 
 TEST_F(SeamsTest, AnImageLargerThanTheTileIsCutNotScrambled) {
@@ -176,7 +176,7 @@ TEST_F(SeamsTest, AnImageLargerThanTheTileIsCutNotScrambled) {
     for (int y = 0; y < 12; ++y)
         for (int x = 0; x < 12; ++x) big.set_pixel(x, y, Color(uint8_t(x * 20), uint8_t(y * 20), 7));
     Canvas_View& view = g_editor->canvas();
-    view.paste(big, -2, -2);  // centred: two pixels over every edge
+    view.tile_selection().paste(big, -2, -2, view.tile());  // centred: two pixels over every edge
     run(command_deselect);
     const Tile& tile = *store().current_tile();
     for (int y = 0; y < 8; ++y)

@@ -68,8 +68,8 @@ TEST_F(Drawing, TheStampIsClippedToTheSelectionAndUndone) {
     use_tool(command_stamp_brush);
     g_tool_options->select_brush(1, 3);
     Canvas_View& view = g_editor->canvas();
-    view.selection()->set_pixel(5, 5, white);
-    view.set_has_selection(true);
+    view.tile_selection().mask()->set_pixel(5, 5, white);
+    view.tile_selection().set_active(true);
     const int before = g_editor->current()->history().count();
     stroke({{5, 5}});
     EXPECT_EQ(tile().get_pixel(5, 5), white);

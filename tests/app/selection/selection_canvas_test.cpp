@@ -23,8 +23,8 @@ const Color blue(10, 40, 230);
 class Selecting : public Drawing {
 protected:
     static Canvas_View& view() { return g_editor->canvas(); }
-    static Rectangle selected_box() { return mask_ops::bounds(*view().selection()); }
-    static bool selected(int x, int y) { return mask_ops::is_selected(*view().selection(), x, y); }
+    static Rectangle selected_box() { return mask_ops::bounds(*view().tile_selection().mask()); }
+    static bool selected(int x, int y) { return mask_ops::is_selected(*view().tile_selection().mask(), x, y); }
     static void undo() { key(SDLK_Z, SDL_KMOD_CTRL); }
     static void redo() { key(SDLK_R, SDL_KMOD_CTRL); }
     static void with_shift(const std::vector<SDL_Point>& cells) {
@@ -66,7 +66,7 @@ TEST_F(Selecting, CopyIntoAnotherTilesetMoveAcrossTheEdgeLeaveTheToolAndUndoToTh
     stroke({{2, 3}}, SDL_BUTTON_RIGHT);
     use_tool(command_rectangle_selector);
     stroke({{1, 1}, {4, 2}, {7, 3}});
-    ASSERT_TRUE(view().has_selection());
+    ASSERT_TRUE(view().tile_selection().active());
     EXPECT_EQ(selected_box(), (Rectangle{1, 1, 7, 3}));
     const auto& size = static_cast<const Location_Info&>(g_tool_options->row(tool_pages::row_size));
     EXPECT_EQ(size.first(), 7);
@@ -78,24 +78,24 @@ TEST_F(Selecting, CopyIntoAnotherTilesetMoveAcrossTheEdgeLeaveTheToolAndUndoToTh
     // A tileset of another tile size: the copy is centred on its tile.
     ASSERT_TRUE(g_editor->tilesets().new_tileset(16, 16));
     ASSERT_NE(g_editor->current(), first);
-    EXPECT_FALSE(view().has_selection());
+    EXPECT_FALSE(view().tile_selection().active());
     key(SDLK_V, SDL_KMOD_CTRL);
     EXPECT_EQ(g_editor->current_tool(), command_work_selection);
-    ASSERT_NE(view().floating_image(), nullptr);
-    EXPECT_EQ(view().floating_position().x, 4);
-    EXPECT_EQ(view().floating_position().y, 6);
+    ASSERT_NE(view().tile_selection().floating_image(), nullptr);
+    EXPECT_EQ(view().tile_selection().float_x(), 4);
+    EXPECT_EQ(view().tile_selection().float_y(), 6);
     EXPECT_EQ(on_screen(5, 7), red);
 
     // Dragged by its red row over the right edge: the row comes back on the left.
     stroke({{5, 7}, {10, 7}, {14, 7}});
-    EXPECT_EQ(view().floating_position().x, 13);
+    EXPECT_EQ(view().tile_selection().float_x(), 13);
     EXPECT_EQ(on_screen(15, 7), red);
     EXPECT_EQ(on_screen(2, 7), red);
     EXPECT_EQ(on_screen(14, 8), blue);
     EXPECT_EQ(tile().get_pixel(15, 7), blank);
 
     use_tool(command_pen);
-    EXPECT_EQ(view().floating_image(), nullptr);
+    EXPECT_EQ(view().tile_selection().floating_image(), nullptr);
     for (int x : {14, 15, 0, 1, 2}) EXPECT_EQ(tile().get_pixel(x, 7), red) << x;
     EXPECT_EQ(tile().get_pixel(3, 7), blank);
     EXPECT_EQ(tile().get_pixel(14, 8), blue);
@@ -103,23 +103,23 @@ TEST_F(Selecting, CopyIntoAnotherTilesetMoveAcrossTheEdgeLeaveTheToolAndUndoToTh
     // Undo brings the floating image back where it was pasted, then nothing.
     undo();
     EXPECT_EQ(g_editor->current_tool(), command_work_selection);
-    ASSERT_NE(view().floating_image(), nullptr);
-    EXPECT_EQ(view().floating_position().x, 4);
+    ASSERT_NE(view().tile_selection().floating_image(), nullptr);
+    EXPECT_EQ(view().tile_selection().float_x(), 4);
     EXPECT_EQ(tile().get_pixel(15, 7), blank);
     undo();
-    EXPECT_EQ(view().floating_image(), nullptr);
+    EXPECT_EQ(view().tile_selection().floating_image(), nullptr);
     for (int x = 0; x < 16; ++x) EXPECT_EQ(tile().get_pixel(x, 7), blank) << x;
     EXPECT_FALSE(g_editor->undo().undo());
 
     // The first tileset: its own history gives its selection back.
     g_editor->tilesets().make_current(*first);
     undo();
-    EXPECT_FALSE(view().has_selection());
+    EXPECT_FALSE(view().tile_selection().active());
     redo();
-    ASSERT_TRUE(view().has_selection());
+    ASSERT_TRUE(view().tile_selection().active());
     EXPECT_EQ(selected_box(), (Rectangle{1, 1, 7, 3}));
     for (int i = 0; i < 3; ++i) undo();
-    EXPECT_FALSE(view().has_selection());
+    EXPECT_FALSE(view().tile_selection().active());
     EXPECT_EQ(tile().get_pixel(2, 2), blank);
     EXPECT_FALSE(g_editor->undo().undo());
     // The buffer belongs to the editor: it is still there.
@@ -143,7 +143,7 @@ TEST_F(Selecting, ShiftAddsTheRightButtonRemovesAndAPlainDragReplaces) {
     const Color inside = on_screen(2, 2);
     EXPECT_NE(on_screen(9, 9), inside);
     stroke({{10, 10}});
-    EXPECT_FALSE(view().has_selection());
+    EXPECT_FALSE(view().tile_selection().active());
     EXPECT_EQ(on_screen(9, 9), inside);
 
     use_tool(command_circle_selector);
@@ -203,7 +203,7 @@ TEST_F(Selecting, EveryCommandIsRecordedWithItsMaskAndRefusalsSayWhy) {
     EXPECT_EQ(tile().get_pixel(0, 0).alpha, 0);
     EXPECT_EQ(tile().get_pixel(3, 3), red);
     key(SDLK_SPACE);
-    EXPECT_FALSE(view().has_selection());
+    EXPECT_FALSE(view().tile_selection().active());
 
     undo();  // Deselect
     EXPECT_TRUE(selected(0, 0));
@@ -224,12 +224,12 @@ TEST_F(Selecting, EveryCommandIsRecordedWithItsMaskAndRefusalsSayWhy) {
     stroke({{2, 2}, {3, 3}});
     g_editor->run_command(command_clone);
     EXPECT_EQ(g_editor->current_tool(), command_work_selection);
-    ASSERT_NE(view().floating_image(), nullptr);
-    EXPECT_EQ(view().floating_position().x, 2);
+    ASSERT_NE(view().tile_selection().floating_image(), nullptr);
+    EXPECT_EQ(view().tile_selection().float_x(), 2);
     // The selection's pixels as an image, as a brush would take them.
     EXPECT_EQ(g_editor->selection().selection_image()->width(), 2);
     g_editor->run_command(command_clear);  // throws the floating image away
-    EXPECT_EQ(view().floating_image(), nullptr);
+    EXPECT_EQ(view().tile_selection().floating_image(), nullptr);
     EXPECT_EQ(tile().get_pixel(2, 2), blue);
 }
 
@@ -240,7 +240,7 @@ TEST_F(Selecting, WorkSelectionLiftsCopiesClonesAndKeepsByItsMode) {
     use_tool(command_rectangle_selector);
     stroke({{2, 2}, {4, 2}});
     use_tool(command_work_selection);
-    EXPECT_TRUE(view().has_selection());  // choosing the tool keeps what it moves
+    EXPECT_TRUE(view().tile_selection().active());  // choosing the tool keeps what it moves
     stroke({{3, 2}, {3, 6}});
     EXPECT_EQ(tile().get_pixel(3, 2), blank);  // lifted
     EXPECT_EQ(on_screen(3, 6), red);
@@ -250,10 +250,10 @@ TEST_F(Selecting, WorkSelectionLiftsCopiesClonesAndKeepsByItsMode) {
     EXPECT_EQ(on_screen(10, 10), red);
     undo();
     EXPECT_EQ(tile().get_pixel(3, 6), blank);
-    EXPECT_EQ(view().floating_position().y, 6);
+    EXPECT_EQ(view().tile_selection().float_y(), 6);
     undo();
     EXPECT_EQ(tile().get_pixel(3, 2), red);
-    EXPECT_EQ(view().floating_image(), nullptr);
+    EXPECT_EQ(view().tile_selection().floating_image(), nullptr);
     EXPECT_TRUE(selected(3, 2));
 
     // "Fixed": the pixels stay and a copy moves. "Persistent": it keeps floating under other tools.
@@ -262,12 +262,12 @@ TEST_F(Selecting, WorkSelectionLiftsCopiesClonesAndKeepsByItsMode) {
     EXPECT_EQ(tile().get_pixel(3, 2), red);
     set_selection_mode(Selection_Tools::persistent);
     use_tool(command_pen);
-    EXPECT_NE(view().floating_image(), nullptr);
+    EXPECT_NE(view().tile_selection().floating_image(), nullptr);
     EXPECT_EQ(tile().get_pixel(3, 8), blank);
     set_selection_mode(Selection_Tools::standard);
     use_tool(command_work_selection);
     use_tool(command_pen);
-    EXPECT_EQ(view().floating_image(), nullptr);
+    EXPECT_EQ(view().tile_selection().floating_image(), nullptr);
     EXPECT_EQ(tile().get_pixel(3, 8), red);
 }
 
@@ -322,7 +322,7 @@ TEST_F(Selecting, AnotherTileClearsTheSelectionAndAntiAliasSmoothsOnlySteps) {
     use_tool(command_rectangle_selector);
     stroke({{1, 1}, {4, 4}});
     g_editor->run_command(command_previous_tile);
-    EXPECT_FALSE(view().has_selection());
+    EXPECT_FALSE(view().tile_selection().active());
 
     const Color white(255, 255, 255);
     fill_tile(white);
@@ -355,14 +355,14 @@ TEST_F(Selecting, AFloatingImageShowsWrappedAndBlendedAndMovesWithoutATrace) {
     Tile image(2, 1);
     image.set_pixel(0, 0, red);
     image.set_pixel(1, 0, Color(10, 40, 230, 128));
-    view().paste(image, w - 1, 3);
+    view().tile_selection().paste(image, w - 1, 3, view().tile());
     EXPECT_EQ(on_screen(w - 1, 3), red);
     const Color half = on_screen(0, 3);  // the wrapped, half-transparent pixel
     EXPECT_GT(half.blue, 100);
     EXPECT_LT(half.blue, 230);
     EXPECT_EQ(on_screen(1, 3), untouched);
 
-    view().replace_float(&image, 4, 5);
+    view().tile_selection().replace_float(&image, 4, 5);
     EXPECT_EQ(on_screen(w - 1, 3), untouched);
     EXPECT_EQ(on_screen(0, 3), untouched);
     EXPECT_EQ(on_screen(4, 5), red);
