@@ -6,6 +6,7 @@
 #include <memory>
 #include <vector>
 
+#include "app/canvas_picture.h"
 #include "app/stroke_action.h"
 #include "model/color/color.h"
 #include "model/tile/tile.h"
@@ -14,12 +15,11 @@
 
 class Main_Window;
 
-// The current tile magnified in the canvas area: every tile pixel a square
-// cell over a checkerboard, with a per-cell grid line in a contrast of the
-// pixel's own colour, the selection's dashed edges, a veil outside the
-// selection, a pending floating image and the seam markers. The selection and
-// the floating image belong to the document (`Tile_Selection`); the view keeps
-// the zoom, the pan and the seam offsets, and runs strokes in a loop of its own.
+// The current tile magnified in the canvas area: the cells (drawn by its
+// `Canvas_Picture`), the selection's dashed edges, the floating image's frame
+// and the seam markers. The selection and the floating image belong to the
+// document (`Tile_Selection`); the view keeps the zoom, the pan and the seam
+// offsets, and runs strokes in a loop of its own.
 class Canvas_View {
 public:
     static constexpr int min_pixel_size = 3;
@@ -80,7 +80,7 @@ public:
     std::function<void(bool horizontal)> seam_released;
 
 private:
-    void compose_cells();
+    Canvas_Picture::Frame frame() const;
     void draw_cell_marks(Main_Window& window, int tx, int ty, int px, int py);
     void draw_edges(Main_Window& window, const Tile& m, int tx, int ty, int px, int py, bool active);
     void keep_pointer_on_tile(float x, float y);
@@ -104,49 +104,5 @@ private:
     int origin_y = 0;
     int extent_w = 0;
     int extent_h = 0;
-    // The composed picture of the visible cells, kept between repaints.
-    std::vector<uint32_t> cell_inside;
-    std::vector<uint32_t> cell_grid;
-    std::vector<uint32_t> picture;
-    SDL_Texture* picture_texture = nullptr;
-    // What the texture shows: the picture is a function of these and the
-    // composed cells alone, so a repaint that composes the same cells at the
-    // same place uploads nothing.
-    struct Picture_Key {
-        Rectangle area;
-        int origin_x = 0;
-        int origin_y = 0;
-        int cell_size = 0;
-        int tile_width = 0;
-        bool operator==(const Picture_Key&) const = default;
-    };
-    void compose_band(const Picture_Key& key, int ty);
-    // What the composed cells were made from. A repaint composes again only
-    // the rows whose pixels or mask changed, and everything when any of the
-    // rest did: an unchanged 64 x 64 tile costs a compare, not 4,096 blends.
-    // The floating image is not in the cells but a layer over them.
-    struct Compose_Key {
-        int width = 0;
-        int height = 0;
-        int checker_w = 0;
-        int checker_h = 0;
-        int grid_contrast = 0;
-        bool selection_on = false;
-        bool operator==(const Compose_Key&) const = default;
-    };
-    bool compose_everything();
-    Compose_Key composed_key;
-    std::vector<Color> composed_pixels;
-    std::vector<Color> composed_mask;
-    void draw_float(Main_Window& window);
-    SDL_Texture* float_texture = nullptr;
-    int float_texture_w = 0;
-    int float_texture_h = 0;
-    uint64_t float_generation = 0;
-    std::vector<Color> uploaded_float;
-    std::vector<uint32_t> float_picture;
-    Picture_Key shown_key;
-    std::vector<uint32_t> shown_inside;
-    std::vector<uint32_t> shown_grid;
-    std::vector<uint64_t> band_generation;
+    Canvas_Picture picture;
 };
