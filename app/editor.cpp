@@ -4,6 +4,8 @@
 #include <iterator>
 
 #include "app/canvas_view.h"
+#include "app/file_commands.h"
+#include "app/tile_commands.h"
 #include "model/core/commands.h"
 #include "platform/frame_cache.h"
 #include "platform/globals.h"
@@ -115,6 +117,8 @@ Editor::Editor()
     link_tool_options(drawing_tools->context());
     color_editor = std::make_unique<Color_Editor>();
     undo_control = std::make_unique<Undo_Control>(*this);
+    tile_commands = std::make_unique<Tile_Commands>(*this);
+    file_commands = std::make_unique<File_Commands>(*this);
 }
 
 Editor::~Editor() {

@@ -14,11 +14,13 @@
 class Canvas_View;
 class Color_Editor;
 class Drawing_Tools;
+class File_Commands;
 class Menu_Bar;
 class Selection_Tools;
 class Stroke_Action;
 class Stroke_Change;
 class Tile;
+class Tile_Commands;
 class Tileset_Tabs;
 class Tileset_Navigation;
 class Tool_Bar;
@@ -78,6 +80,12 @@ public:
     Tileset* shown_tileset_if_open() { return open.holds(shown_tileset) ? shown_tileset : nullptr; }
     // The current tileset's navigation pane, if it has one.
     Tileset_Navigation* navigation();
+    // The canvas shows the current tileset's current tile.
+    void show_current_tile();
+    // What a command handler returns when the model refused it: the user is
+    // told why (unless why is none), and nothing is recorded.
+    static constexpr int command_refused = -2;
+    int refuse(const char* why);
 
     // The stroke a tool runs on the canvas, registered by the folder that
     // owns it under the tool's command; the rectangle and circle have one for
@@ -87,24 +95,12 @@ public:
     Stroke_Action* stroke_for(int tool, int variant = 0) const;
 
 private:
-    int execute_tileset_command(int command);
-    int execute_editor_command(int command);
     void after_command(int command);
-    void show_current_tile();
-    void switch_seam(bool horizontal);
     void pan_loop();
     void zoom(int direction);
     void follow_pointer();
-    void save(bool save_as);
-    void load();
-    void export_bmp();
-    void new_from_dialog();
-    void close_current();
     void context_info();
     void show_unhandled(int command);
-    // What a command handler returns when the model refused it.
-    static constexpr int command_refused = -2;
-    int refuse(const char* why);
     int move_to_pad();
     int delete_pad_brush();
 
@@ -127,6 +123,8 @@ private:
     std::unique_ptr<Drawing_Tools> drawing_tools;
     std::unique_ptr<Selection_Tools> selection_tools;
     std::unique_ptr<Undo_Control> undo_control;
+    std::unique_ptr<Tile_Commands> tile_commands;
+    std::unique_ptr<File_Commands> file_commands;
     std::unique_ptr<Color_Editor> color_editor;
 };
 

@@ -9,6 +9,8 @@
 #include "platform/debug_log.h"
 #include "features/color/edit_hsv_dialog.h"
 #include "app/editor.h"
+#include "app/file_commands.h"
+#include "app/tile_commands.h"
 #include "platform/globals.h"
 #include "platform/main_window.h"
 #include "app/prompt_dialogs.h"
@@ -41,10 +43,10 @@ int Editor::execute(int command) {
     } else {
         switch (command) {
             case command_horizontal_seam_tool:
-                switch_seam(true);
+                tile_commands->switch_seam(true);
                 break;
             case command_vertical_seam_tool:
-                switch_seam(false);
+                tile_commands->switch_seam(false);
                 break;
             // Carried out already by the strip that produced them, or with no
             // action of their own in this version.
@@ -58,22 +60,22 @@ int Editor::execute(int command) {
                 result = -1;
                 break;
             case command_close:
-                close_current();
+                file_commands->close_current();
                 break;
             case command_new:
-                new_from_dialog();
+                file_commands->new_tileset();
                 break;
             case command_load:
-                load();
+                file_commands->load();
                 break;
             case command_export:
-                export_bmp();
+                file_commands->export_sheet();
                 break;
             case command_save_as:
-                save(true);
+                file_commands->save(true);
                 break;
             case command_save:
-                save(false);
+                file_commands->save(false);
                 break;
             case command_quit:
                 if (Prompt_Dialogs::confirm_quit(!open.any_modified())) quit = true;
@@ -152,7 +154,7 @@ int Editor::execute(int command) {
                 g_debug_log->log("Test: %d tilesets open", open.count());
                 break;
             default:
-                result = execute_tileset_command(command);
+                result = tile_commands->execute(command);
                 if (result == command_refused) return -1;
                 if (result < 0) {
                     show_unhandled(command);
@@ -165,17 +167,6 @@ int Editor::execute(int command) {
     return result;
 }
 
-namespace {
-const char* const full_text = "The tileset is full: it holds 256 tiles, the most a tileset can hold.";
-const char* const not_square_text = "Only tiles of equal width and height can be rotated.";
-
-bool is_blank(const Tile& tile) {
-    for (int i = 0; i < tile.pixel_count(); ++i)
-        if (!(tile.pixels()[i] == Color(0, 0, 0, 0))) return false;
-    return true;
-}
-}  // namespace
-
 // A command the model refuses changes nothing and records nothing; the user
 // is told why, unless the refusal is part of an undo that still does its work.
 int Editor::refuse(const char* why) {
@@ -186,151 +177,6 @@ int Editor::refuse(const char* why) {
 void Editor::show_unhandled(int command) {
     const std::string text = std::string("Unhandled command ") + commands::name(command);
     g_message_box->note(text.c_str());
-}
-
-// The tileset's own commands; -1 for those it does not handle.
-int Editor::execute_tileset_command(int command) {
-    Tileset* t = open.current();
-    if (!t) return -1;
-    Tile_Store& store = t->store();
-    switch (command) {
-        case command_next_tile:
-            if (!store.next()) return refuse("There is no next tile: this is the last one.");
-            return command;
-        case command_previous_tile:
-            if (!store.previous()) return refuse("There is no previous tile: this is the first one.");
-            return command;
-        case command_next_tile_strip:
-            t->strip().next_page();
-            return command;
-        case command_previous_tile_strip:
-            t->strip().previous_page();
-            return command;
-        case command_rewind_strip:
-            t->strip().rewind();
-            return command;
-        case command_forward_strip:
-            t->strip().forward();
-            return command;
-        case command_add_new_tile:
-            if (!store.add_tile()) return refuse(full_text);
-            return undo_control->record_list_change(TileListUndoNode::inserted(command, store.current_index(), store,
-                                                                               &open.selection()));
-        // "Undo paste tile" inserts like "Insert new tile", but only beside another tile.
-        case command_undo_paste_tile:
-            if (store.tile_count() < 2) return refuse(nullptr);
-            [[fallthrough]];
-        case command_insert_new_tile:
-            if (!store.insert_tile()) return refuse(full_text);
-            return undo_control->record_list_change(TileListUndoNode::inserted(command, store.current_index(), store,
-                                                                               &open.selection()));
-        case command_delete_tile:
-        case command_undo_delete_tile: {
-            // The only tile is cleared instead; clearing an empty one changes nothing.
-            Tile* only = store.tile_count() < 2 ? store.current_tile() : nullptr;
-            if (only && is_blank(*only))
-                return refuse("The only tile of a tileset is cleared, not deleted,\rand this one is empty already.");
-            if (only) {
-                store.delete_tile();
-                only->update_texture();
-                return undo_control->record_list_change(
-                    TileListUndoNode::cleared(command, store, &open.selection()));
-            }
-            const int place = store.current_index();
-            std::unique_ptr<Tile_Uses> uses;
-            std::unique_ptr<Tile> gone = store.remove_at(place, &uses);
-            return undo_control->record_list_change(TileListUndoNode::removed(
-                command, place, std::move(gone), std::move(uses), store, &open.selection()));
-        }
-        case command_map_editor: {
-            const int outcome = edit_map(*t);
-            return outcome < 0 ? refuse(nullptr) : outcome;
-        }
-        case command_arrange_select: {
-            std::vector<int> order;
-            const int outcome = arrange_tiles(*t, order);
-            if (outcome != command_arrange_select) return outcome < 0 ? refuse(nullptr) : outcome;
-            // The swaps are one step to undo, and the history before them stays.
-            return undo_control->record_list_change(
-                TileListUndoNode::reordered(command, std::move(order), store, &open.selection()));
-        }
-        // A view only: nothing to record.
-        case command_view_tile_array:
-            view_tile_array(*t);
-            return refuse(nullptr);
-        // Nothing to undo or redo is no fault: no message.
-        case command_undo:
-            undo_control->undo();
-            return command;
-        case command_redo:
-            undo_control->redo();
-            return command;
-        case command_view_undo_history:
-            undo_control->view();
-            return command;
-        default:
-            return execute_editor_command(command);
-    }
-}
-
-// Commands the tileset hands on to the editor: whole-tile transforms and the view.
-int Editor::execute_editor_command(int command) {
-    Tile* tile = canvas_view->tile();
-    auto changed = [&] {
-        tile->update_texture();
-        return command;
-    };
-    switch (command) {
-        case command_scroll_left:
-            if (!tile) return -1;
-            offset_copy(*tile, 1, 0);
-            return changed();
-        case command_scroll_right:
-            if (!tile) return -1;
-            offset_copy(*tile, -1, 0);
-            return changed();
-        case command_scroll_up:
-            if (!tile) return -1;
-            offset_copy(*tile, 0, 1);
-            return changed();
-        case command_scroll_down:
-            if (!tile) return -1;
-            offset_copy(*tile, 0, -1);
-            return changed();
-        case command_rotate:
-            if (!tile) return -1;
-            if (!rotate(*tile)) return refuse(not_square_text);
-            return changed();
-        case command_rotate_back:
-            if (!tile) return -1;
-            if (!rotate_back(*tile)) return refuse(not_square_text);
-            return changed();
-        case command_mirror:
-            if (!tile) return -1;
-            mirror(*tile);
-            return changed();
-        case command_flip:
-            if (!tile) return -1;
-            flip(*tile);
-            return changed();
-        // The pen's history copy is taken after the command (after_command).
-        case command_save_undo_buffer:
-            return command;
-        case command_save_image_to_undo:
-            canvas_view->save_copy();
-            return command;
-        case command_center_tile_on_view:
-            canvas_view->centre();
-            return command;
-        case command_zoom_tile_up:
-            zoom(1);
-            return command;
-        case command_zoom_tile_down:
-            zoom(-1);
-            return command;
-        default:
-            return -1;
-    }
 }
 
 // The tileset's bookkeeping after a command: the canvas and the strip follow
@@ -345,32 +191,6 @@ void Editor::after_command(int command) {
     if (commands::resets_selection_after(command) && g_options && g_options->is_on(Options::clear_selection))
         open.selection().clear();
     if (commands::saves_copy_after(command)) canvas_view->save_copy();
-}
-
-// The seam buttons toggle: down scrolls the tile by half its size so its
-// edges meet in the middle; up scrolls it back.
-void Editor::switch_seam(bool horizontal) {
-    Tile* tile = canvas_view->tile();
-    if (!tile) return;
-    const bool down = !tool_bar->seam_down(horizontal);
-    if (!down) {
-        const int keep_h = horizontal ? -1 : canvas_view->seam_offset_h();
-        const int keep_v = horizontal ? canvas_view->seam_offset_v() : -1;
-        const int end_h = horizontal ? canvas_view->seam_offset_h() : -1;
-        const int end_v = horizontal ? -1 : canvas_view->seam_offset_v();
-        canvas_view->set_seam_offsets(end_h, end_v);
-        canvas_view->end_seams();
-        canvas_view->set_seam_offsets(keep_h, keep_v);
-        return;
-    }
-    tool_bar->set_seam(horizontal, true);
-    const int n = (horizontal ? tile->width() : tile->height()) / 2;
-    for (int i = 0; i < n; ++i) offset_copy(*tile, horizontal ? -1 : 0, horizontal ? 0 : -1);
-    tile->update_texture();
-    if (horizontal)
-        canvas_view->set_seam_offsets(n, canvas_view->seam_offset_v());
-    else
-        canvas_view->set_seam_offsets(canvas_view->seam_offset_h(), n);
 }
 
 // F1: help for the tool button under the pointer; anywhere else the

@@ -32,7 +32,7 @@ FAULTS = [
     ("model/map/seam_check.cpp", "return most > limit;", "return most >= limit;", "seams found one step too early"),
     ("model/map/map_file.cpp", "csv += std::to_string(tile == Tile_Map::empty ? 0 : tile + first_gid);",
      "csv += std::to_string(tile == Tile_Map::empty ? 0 : tile + 1);", "map cells written without the tileset's firstgid"),
-    ("app/editor_commands.cpp", "std::unique_ptr<Tile> gone = store.remove_at(place, &uses);",
+    ("app/tile_commands.cpp", "std::unique_ptr<Tile> gone = store.remove_at(place, &uses);",
      "std::unique_ptr<Tile> gone = store.remove_at(place, nullptr);", "deleting a tile forgets its map cells"),
     ("model/selection/mask_ops.cpp", "        for (int x = 0; x < mask.width(); ++x) mask.set_pixel(x, y, mask.is_white(x, y) ? unselected : selected);",
      "        for (int x = 0; x + 1 < mask.width(); ++x) mask.set_pixel(x, y, mask.is_white(x, y) ? unselected : selected);",

@@ -1,4 +1,5 @@
-// Creating, loading, saving, exporting and closing tilesets.
+#include "app/file_commands.h"
+
 #include <SDL3/SDL.h>
 
 #include <filesystem>
@@ -20,14 +21,14 @@
 #include "ui/options.h"
 #include "ui/ui_globals.h"
 
-void Editor::new_from_dialog() {
+void File_Commands::new_tileset() {
     const Prompt_Dialogs::New_Tileset answer = g_prompt_dialogs->new_tileset_dialog();
     if (!answer.confirmed) return;
     if (answer.mode == Prompt_Dialogs::mode_keep_and_resize) {
-        if (!open.current()) return;
-        Tileset& t = *open.current();
+        if (!editor.tilesets().current()) return;
+        Tileset& t = *editor.tilesets().current();
         const int left_out = t.resize_tiles(uint32_t(answer.width), uint32_t(answer.height));
-        show_current_tile();
+        editor.show_current_tile();
         if (left_out > 0) {
             const Tile_Map& map = t.map().map();
             const std::string text = "The map now has " + std::to_string(map.columns()) + " x " +
@@ -37,18 +38,18 @@ void Editor::new_from_dialog() {
                                      "agree to replace it.";
             g_message_box->note(text.c_str());
         }
-    } else if (!open.new_tileset(uint32_t(answer.width), uint32_t(answer.height))) {
+    } else if (!editor.tilesets().new_tileset(uint32_t(answer.width), uint32_t(answer.height))) {
         return;
     }
-    relayout();
+    editor.relayout();
 }
 
-void Editor::close_current() {
-    if (open.close_current()) relayout();
+void File_Commands::close_current() {
+    if (editor.tilesets().close_current()) editor.relayout();
 }
 
-void Editor::save(bool save_as) {
-    Tileset* t = open.current();
+void File_Commands::save(bool save_as) {
+    Tileset* t = editor.tilesets().current();
     if (!t) return;
     if (save_as || !t->is_named()) {
         File_Path chosen = t->path();
@@ -62,7 +63,7 @@ void Editor::save(bool save_as) {
     }
     // What the user sees is saved: a floating image is put down into the
     // saved copy of its tile (the tile itself keeps it floating).
-    const std::unique_ptr<Tile> shown = canvas_view->tile_as_shown();
+    const std::unique_ptr<Tile> shown = editor.canvas().tile_as_shown();
     if (Tileset_File::write(t->store(), t->path().full, shown.get()) < 0) {
         g_message_box->show_message("Error", Tileset_File::save_error_text);
         return;
@@ -72,28 +73,28 @@ void Editor::save(bool save_as) {
     if (save_map(*t)) t->clear_modified();
 }
 
-void Editor::load() {
-    File_Path chosen = open.current() ? open.current()->path() : File_Path{};
+void File_Commands::load() {
+    File_Path chosen = editor.tilesets().current() ? editor.tilesets().current()->path() : File_Path{};
     if (!choose_file(file_open_tileset, chosen)) return;
     // A second copy would be saved over the first: its tab is shown instead.
     std::error_code error;
-    for (int i = 0; i < open.count(); ++i)
-        if (std::filesystem::equivalent(open.at(i).path().full, chosen.full, error)) {
-            open.make_current(open.at(i));
-            relayout();
+    for (int i = 0; i < editor.tilesets().count(); ++i)
+        if (std::filesystem::equivalent(editor.tilesets().at(i).path().full, chosen.full, error)) {
+            editor.tilesets().make_current(editor.tilesets().at(i));
+            editor.relayout();
             return;
         }
-    if (!open.open_file(chosen.full)) {
+    if (!editor.tilesets().open_file(chosen.full)) {
         g_message_box->show_message("Error", Tileset_File::load_error_text);
         return;
     }
-    load_map(*open.current());
-    relayout();
+    load_map(*editor.tilesets().current());
+    editor.relayout();
 }
 
 // The sheet of the tiles, the same one the map beside a saved tileset uses.
-void Editor::export_bmp() {
-    Tileset* t = open.current();
+void File_Commands::export_sheet() {
+    Tileset* t = editor.tilesets().current();
     if (!t) return;
     const Tile_Store& store = t->store();
     Image sheet(16 * store.tile_width(), 16 * store.tile_height());
