@@ -12,6 +12,7 @@ taken back, and one line per fault is printed: its number, what it breaks and
 the tests that failed. The tree is restored even when interrupted.
 """
 import pathlib
+import signal
 import subprocess
 import sys
 
@@ -75,7 +76,14 @@ def failed_tests(build):
     return names
 
 
+def stop(signum, frame):
+    # A kill must restore the tree as an interrupt does: the finally below runs.
+    raise KeyboardInterrupt
+
+
 def main():
+    signal.signal(signal.SIGTERM, stop)
+    signal.signal(signal.SIGHUP, stop)
     args = sys.argv[1:]
     build = ROOT / "build-check"
     if args and not args[0].isdigit():
