@@ -56,20 +56,6 @@ TEST_F(NavigationTest, ClickOnACellSelectsTheTileAndUndoReturns) {
     EXPECT_EQ(g_editor->canvas().tile(), store().tile_at(0));
 }
 
-TEST_F(NavigationTest, StripKeysPageSixtyTiles) {
-    add_tiles(59);
-    ASSERT_EQ(store().tile_count(), 60);
-    ASSERT_EQ(tileset().strip().first(), 0);
-    // ">" is Shift with the key of "<".
-    push_key(SDLK_BACKSLASH, SDL_KMOD_SHIFT);
-    pump();
-    EXPECT_EQ(tileset().strip().first(), 46);
-    EXPECT_EQ(store().current_index(), 0);
-    push_key(SDLK_BACKSLASH);
-    pump();
-    EXPECT_EQ(tileset().strip().first(), 0);
-}
-
 TEST_F(NavigationTest, ButtonsRunTheirCommands) {
     add_tiles(59);
     Tile_Strip& strip = tileset().strip();

@@ -44,26 +44,6 @@ TEST_F(Drawing, TheStampsRightButtonUsesTheSecondColourAlongTheDrag) {
     EXPECT_EQ(tile().get_pixel(5, 7), black);
 }
 
-TEST_F(Drawing, TheStampInPatternModeRepeatsFromTheTilesCorner) {
-    use_tool(command_stamp_brush);
-    Fixed_Settings fixed;
-    Tile checker(2, 2);
-    checker.fill(Color(0, 0, 0, 0));
-    checker.set_pixel(0, 0, red);
-    checker.set_pixel(1, 1, blue);
-    fixed.kept.stamp = &checker;
-    fixed.kept.stamp_mode = 1;
-    stroke({{5, 5}, {9, 5}});
-    // Pixel (x, y) shows the image's (x mod 2, y mod 2) wherever it lies.
-    // A 2 x 2 image is stamped at its top-left pixel: rows 5 and 6, columns 5 to 10.
-    for (int x = 4; x <= 11; ++x) {
-        const bool inside = x >= 5 && x <= 10;
-        EXPECT_EQ(tile().get_pixel(x, 6), inside && x % 2 == 0 ? red : black) << x;
-        EXPECT_EQ(tile().get_pixel(x, 5), inside && x % 2 == 1 ? blue : black) << x;
-        EXPECT_EQ(tile().get_pixel(x, 4), black) << x;
-    }
-}
-
 TEST_F(Drawing, TheStampIsClippedToTheSelectionAndUndone) {
     use_tool(command_stamp_brush);
     g_tool_options->select_brush(1, 3);
@@ -77,22 +57,6 @@ TEST_F(Drawing, TheStampIsClippedToTheSelectionAndUndone) {
     EXPECT_EQ(g_editor->current()->history().count(), before + 1);
     EXPECT_TRUE(g_editor->undo().undo());
     EXPECT_EQ(tile().get_pixel(5, 5), black);
-}
-
-TEST_F(Drawing, TheSmudgeDragsAPixelAlongTheStroke) {
-    use_tool(command_pen);
-    set_colors(Color(200, 0, 0), blue);
-    stroke({{3, 3}});
-    use_tool(command_smudge_brush);
-    stroke({{3, 3}, {6, 3}});
-    EXPECT_EQ(tile().get_pixel(3, 3), Color(200, 0, 0));
-    EXPECT_EQ(tile().get_pixel(4, 3), Color(100, 0, 0));
-    EXPECT_EQ(tile().get_pixel(5, 3), Color(50, 0, 0));
-    EXPECT_EQ(tile().get_pixel(6, 3), Color(25, 0, 0));
-    EXPECT_EQ(on_screen(4, 3), Color(100, 0, 0));
-    EXPECT_TRUE(g_editor->undo().undo());
-    EXPECT_EQ(tile().get_pixel(4, 3), black);
-    EXPECT_EQ(tile().get_pixel(3, 3), Color(200, 0, 0));
 }
 
 TEST_F(Drawing, TheSmudgeCarriesWhatItsBrushCovers) {

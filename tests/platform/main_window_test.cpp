@@ -26,17 +26,6 @@ Color drawn(int x, int y) {
 
 class MainWindow : public Headless {};
 
-TEST_F(MainWindow, ClearsToTheBackgroundAndBlendsFills) {
-    Main_Window& w = *g_main_window;
-    w.clear();
-    EXPECT_EQ(read_pixel(600, 300), Color(137, 137, 137));
-    w.fill_rect(Rectangle{10, 10, 5, 5}, Color(255, 0, 0, 0));
-    EXPECT_EQ(read_pixel(12, 12), Color(137, 137, 137));
-    w.fill_rect(Rectangle{10, 10, 5, 5}, Color(255, 0, 0));
-    EXPECT_EQ(read_pixel(12, 12), Color(255, 0, 0));
-    EXPECT_EQ(read_pixel(15, 12), Color(137, 137, 137));  // half-open width
-}
-
 TEST_F(MainWindow, BevelLightsAndShadesByLuminance) {
     Main_Window& w = *g_main_window;
     w.clear();

@@ -55,16 +55,6 @@ TEST_F(ColorEditorTest, HoveringPinkShowsItsReadoutAndEscapeKeepsTheToolColours)
     EXPECT_EQ(g_tool_options->tool_color(0), Color(0, 0, 0));
 }
 
-TEST_F(ColorEditorTest, PickingASwatchAndPressingRightSetsTheRightColour) {
-    const SDL_Point s = centre(editor().swatch_area(swatch_of("Amber")));
-    const SDL_Point right = centre(editor().button_area(2));
-    Event_Script script;
-    script.then([&] { push_click(s.x, s.y); }).then([&] { push_click(right.x, right.y); });
-    g_editor->run_command(command_color_editor);
-    EXPECT_EQ(g_tool_options->tool_color(1), Color(255, 191, 0));
-    EXPECT_EQ(g_tool_options->color_tools().selected_index(), 1u);
-}
-
 TEST_F(ColorEditorTest, CtrlLeftClickStoresIntoThePaletteAndCtrlRightDoesNothing) {
     const SDL_Point s = centre(editor().swatch_area(swatch_of("Crimson")));
     const SDL_Point cell = centre(editor().palette_cell_area(5));

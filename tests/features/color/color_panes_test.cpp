@@ -30,27 +30,6 @@ TEST_F(ColorPanes, RightClickOnAPaletteCellSetsAndSelectsTheRightColour) {
     EXPECT_EQ(p.cell_at(c.x + 191, c.y + 95), 31);
 }
 
-TEST_F(ColorPanes, TheSquaresTopRightPixelIsTheStripColourExactly) {
-    HSV_Selector& s = tools().selector();
-    const Rectangle strip = s.strip_area();
-    const Rectangle square = s.square_area();
-    const Color strip_colour = s.strip_pixel(20, 40);
-    // A drag in the strip, then a click on the square's corner.
-    Event_Script script;
-    script.then([&] { push_motion(strip.x + 20, strip.y + 40, SDL_BUTTON_LMASK); })
-        .then([&] { push_button(strip.x + 20, strip.y + 40, false); })
-        .then([&] { push_button(square.x + square.width - 1, square.y, false); });
-    const Color before = tools().color(0);
-    push_button(strip.x + 3, strip.y + 3, true);
-    pump();
-    EXPECT_EQ(tools().color(0), before);  // the strip changes no tool colour
-    EXPECT_EQ(s.hue_color(), strip_colour);
-    push_button(square.x + square.width - 1, square.y, true);
-    pump();
-    EXPECT_EQ(tools().color(0), strip_colour);
-    EXPECT_FALSE(script.ran_out());
-}
-
 TEST_F(ColorPanes, ASelectorDragKeepsThePointerInTheSquare) {
     HSV_Selector& s = tools().selector();
     const Rectangle square = s.square_area();

@@ -153,44 +153,6 @@ TEST_F(ArrangeDialogTest, SpaceSelectsOnlyAnotherTileAndReturnYAndEscapeSelectNo
     EXPECT_EQ(marks(store()), (std::vector<int>{1, 2, 3, 4, 5}));
 }
 
-TEST_F(ArrangeDialogTest, ClicksPastTheLastTileSelectNothingAndOkCloses) {
-    Arrange_Dialog dialog(cells, cells, cell, cell, store());
-    const Rectangle g = dialog.grid();
-    // The first row's empty cells, right of tile 4, and the rows below.
-    EXPECT_EQ(dialog.hit(float(g.x + 5 * cell + 3), float(g.y + 3)), -1);
-    EXPECT_EQ(dialog.hit(float(g.x + 3), float(g.y + cell + 3)), -1);
-    EXPECT_EQ(dialog.hit(float(g.x + 4 * cell + cell - 1), float(g.y + cell - 1)), 4);
-    EXPECT_EQ(dialog.hit(float(g.x - 1), float(g.y)), -1);
-
-    Event_Script script;
-    int primary = -2;
-    int secondary = -2;
-    script.then([&] {
-        push_click(g.x + 7 * cell + 5, g.y + 5);
-        push_click(g.x + 5, g.y + 9 * cell, SDL_BUTTON_RIGHT);
-        push_key(SDLK_TAB);
-    });
-    script.then([&] {
-        primary = dialog.primary_tile();
-        secondary = dialog.secondary_tile();
-        push_key(SDLK_SPACE);
-    });
-    EXPECT_TRUE(dialog.run()) << "Tab swapped the current tile with tile 0";
-    EXPECT_EQ(primary, 0);
-    EXPECT_EQ(secondary, 2);
-    EXPECT_EQ(marks(store()), (std::vector<int>{3, 2, 1, 4, 5}));
-
-    // The "Ok" button lies below the grid and closes the dialog.
-    Arrange_Dialog again(cells, cells, cell, cell, store());
-    const Rectangle f = again.frame();
-    script.then([&] {
-        for (int y = f.y + f.height - 1; y > again.grid().y + again.grid().height; --y)
-            push_click(f.x + f.width / 2, y);
-    });
-    EXPECT_FALSE(again.run());
-    EXPECT_FALSE(script.ran_out());
-}
-
 TEST_F(ArrangeDialogTest, DrawsEveryTileInItsCellWithTheMarkersAndCopesWithMoreThanTheGridHolds) {
     SDL_Surface* pool = SDL_LoadBMP(source_path("data/pool.bmp").string().c_str());
     ASSERT_NE(pool, nullptr);
