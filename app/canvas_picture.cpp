@@ -90,7 +90,7 @@ void Canvas_Picture::compose_cells() {
         for (int tx = 0; tx < w; ++tx) {
             const bool light = ((tx / checker_w) + (ty / checker_h)) % 2 == 0;
             const Color pixel = shown->get_pixel(tx, ty);
-            Color inside = over(ui_colors[light ? 19 : 18], pixel);
+            Color inside = over(ui_colors[light ? ui_grey_169 : ui_grey_101], pixel);
             Color grid = pixel;
             grid.alpha = 255;
             if (grid.red < 40 && grid.green < 40 && grid.blue < 40)

@@ -61,7 +61,7 @@ void Preview_Pane::compose(const Tile& tile) {
     for (int y = 0; y < height; ++y)
         for (int x = 0; x < width; ++x) {
             const bool light = ((x / checker_w) + (y / checker_h)) % 2 == 0;
-            picture[size_t(y * width + x)] = over(ui_colors[light ? 19 : 18], tile.get_pixel(x % tw, y % th));
+            picture[size_t(y * width + x)] = over(ui_colors[light ? ui_grey_169 : ui_grey_101], tile.get_pixel(x % tw, y % th));
         }
     if (!texture || texture->width() != width || texture->height() != height) {
         texture.reset(Texture::from_pixels(g_main_window->renderer(), picture.data(), width, height));
