@@ -10,29 +10,22 @@
 #include "platform/globals.h"
 #include "platform/main_window.h"
 #include "app/strokes/drawing_tools.h"
-#include "support/headless.h"
+#include "support/editor_fixture.h"
 #include "ui/backdrop.h"
 #include "ui/event_script.h"
 
 // The editor after start-up, with helpers that draw through the real canvas
 // loop: a press, pushed moves while the loop waits, and the release.
-class Drawing : public Headless {
+class Drawing : public Editor_Fixture {
 protected:
     void SetUp() override {
-        Headless::SetUp();
-        ASSERT_TRUE(g_editor->begin());
+        Editor_Fixture::SetUp();
         // The stroke loop repaints through the backdrop, where the script
         // pushes the next events.
         g_editor->canvas().repaint = [] {
             Backdrop::paint();
             g_main_window->present();
         };
-        drop_pending_events();
-    }
-
-    static void pump() {
-        SDL_Event e;
-        while (SDL_PollEvent(&e)) g_editor->handle(e);
     }
     static void key(SDL_Keycode k, SDL_Keymod mod = SDL_KMOD_NONE) {
         push_key(k, mod);

@@ -9,16 +9,11 @@
 #include "features/color/color_tools.h"
 #include "model/color/palette.h"
 #include "features/color/palette_area.h"
-#include "support/headless.h"
+#include "support/editor_fixture.h"
 
 namespace {
-class RepaintCache : public Headless {
+class RepaintCache : public Editor_Fixture {
 protected:
-    void SetUp() override {
-        Headless::SetUp();
-        ASSERT_TRUE(g_editor->begin());
-        drop_pending_events();
-    }
     static Palette_Area& palette() { return g_tool_options->color_tools().palette_area(); }
     static SDL_Point cell_centre(int index) {
         const Rectangle c = palette().client_area();

@@ -3,18 +3,13 @@
 #include "model/core/commands.h"
 #include "app/editor.h"
 #include "app/tool_options.h"
-#include "support/headless.h"
+#include "support/editor_fixture.h"
 #include "ui/info_panes.h"
 #include "ui/pane.h"
 
 namespace {
-class ToolOptions : public Headless {
+class ToolOptions : public Editor_Fixture {
 protected:
-    void SetUp() override {
-        Headless::SetUp();
-        ASSERT_TRUE(g_editor->begin());
-        drop_pending_events();
-    }
     static void press_row(int id) {
         const Rectangle c = g_tool_options->row(id).client_area();
         // The row's "More" button is its first item, at the client's left.

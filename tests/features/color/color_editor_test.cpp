@@ -12,19 +12,14 @@
 #include "features/color/color_editor.h"
 #include "model/color/palette.h"
 #include "model/tileset/tileset.h"
-#include "support/headless.h"
+#include "support/editor_fixture.h"
 #include "tests/ui/event_script.h"
 #include "ui/dialog.h"
 #include "ui/dialog_item.h"
 
 namespace {
-class ColorEditorTest : public Headless {
+class ColorEditorTest : public Editor_Fixture {
 protected:
-    void SetUp() override {
-        Headless::SetUp();
-        ASSERT_TRUE(g_editor->begin());
-        drop_pending_events();
-    }
     static Color_Editor& editor() { return g_editor->colors(); }
     static SDL_Point centre(const Rectangle& r) { return SDL_Point{r.x + r.width / 2, r.y + r.height / 2}; }
     static int swatch_of(const char* name) {
