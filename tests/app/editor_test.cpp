@@ -92,25 +92,22 @@ TEST_F(EditorTest, KeysFollowTheModifierOrderAndModifiersAloneDoNothing) {
     EXPECT_TRUE(g_editor->current()->is_modified());
 }
 
-TEST_F(EditorTest, EscapeThenYesQuitsAndCancelKeepsRunning) {
+TEST_F(EditorTest, EscapeOrTheWindowsCloseRequestThenYesQuitsAndCancelKeepsRunning) {
     Event_Script script;
-    script.then([] { push_key(SDLK_ESCAPE); });  // the prompt's Escape cancels it
-    push_key(SDLK_ESCAPE);
-    pump();
-    EXPECT_FALSE(g_editor->quit_requested());
+    for (int i = 0; i < 2; ++i) {
+        script.then([] { push_key(SDLK_ESCAPE); });  // the prompt's Escape cancels it
+        if (i == 0)
+            push_key(SDLK_ESCAPE);
+        else
+            push_quit();
+        pump();
+        EXPECT_FALSE(g_editor->quit_requested());
+    }
 
     script.then([] { push_text_key('y'); });
     push_key(SDLK_ESCAPE);
     pump();
     EXPECT_TRUE(g_editor->quit_requested());
-}
-
-TEST_F(EditorTest, TheWindowsCloseRequestAsksTheSameQuestion) {
-    Event_Script script;
-    script.then([] { push_key(SDLK_ESCAPE); });
-    push_quit();
-    pump();
-    EXPECT_FALSE(g_editor->quit_requested());
 }
 
 TEST_F(EditorTest, MiddleButtonDoesNothingAndTheStrokeLoopRunsUntilRelease) {
@@ -194,9 +191,6 @@ TEST_F(EditorTest, WheelZoomKeepsTheCentreAndStopsAtTheLimits) {
     EXPECT_EQ(c.origin().x, at_top.x);
     wheel.wheel.y = -1;
     for (int i = 0; i < 40; ++i) g_editor->handle(wheel);
-    EXPECT_EQ(c.pixel_size(), 3);
-    wheel.wheel.y = 0;
-    g_editor->handle(wheel);
     EXPECT_EQ(c.pixel_size(), 3);
 }
 
@@ -403,8 +397,4 @@ TEST_F(EditorTest, MenusStayOpenOnSeparatorsAndCloseOnKeysOrTheBar) {
     });
     EXPECT_EQ(bar.track(SDL_Point{5, 5}, 0), -1);
     EXPECT_EQ(open_after_slide, 5);
-    // Drop-downs are 4 + 25 x rows - 1 pixels tall, one row per entry.
-    EXPECT_EQ(file.drop_area.height, 4 + 25 * 13 - 1);
-    EXPECT_EQ(file.items[12].command, command_quit);
-    EXPECT_EQ(bar.menu(1).items[9].command, command_use_as_brush);  // a row marked by a blank label
 }
