@@ -34,27 +34,14 @@ Canvas_Picture::~Canvas_Picture() {
     if (float_texture) SDL_DestroyTexture(float_texture);
 }
 
-void Canvas_Picture::take(const Frame& frame) {
-    shown = frame.tile;
-    marks = frame.selection;
-    view = frame.view;
-    origin_x = frame.origin_x;
-    origin_y = frame.origin_y;
-    cell_size = frame.cell_size;
-    extent_w = frame.extent_w;
-    extent_h = frame.extent_h;
-    checker_w = frame.checker_w;
-    checker_h = frame.checker_h;
-    grid_contrast = frame.grid_contrast;
-}
-
 // True when something other than the tile's and the mask's rows changed since
 // the last composition.
 bool Canvas_Picture::compose_everything() {
-    const Compose_Key key{shown->width(), shown->height(), checker_w, checker_h, grid_contrast, marks->active()};
-    const size_t cells = size_t(shown->pixel_count());
+    const Compose_Key key{now.tile->width(), now.tile->height(), now.checker_w,
+                          now.checker_h,      now.grid_contrast, now.selection->active()};
+    const size_t cells = size_t(now.tile->pixel_count());
     bool all = key != composed_key || composed_pixels.size() != cells;
-    if (marks->active() && !marks->mask()->same_size(*shown)) all = true;
+    if (now.selection->active() && !now.selection->mask()->same_size(*now.tile)) all = true;
     composed_key = key;
     if (all) {
         composed_pixels.assign(cells, Color(0, 0, 0, 0));
@@ -74,30 +61,30 @@ bool Canvas_Picture::compose_everything() {
 // checkerboard, the pixel blended over it, the grid in a contrast of the
 // pixel's colour, then the veil outside the selection.
 void Canvas_Picture::compose_cells() {
-    const int w = shown->width();
-    const int h = shown->height();
+    const int w = now.tile->width();
+    const int h = now.tile->height();
     const bool all = compose_everything();
-    const bool masked = marks->active() && marks->mask()->same_size(*shown);
+    const bool masked = now.selection->active() && now.selection->mask()->same_size(*now.tile);
     for (int ty = 0; ty < h; ++ty) {
         const size_t row = size_t(ty * w);
-        const Color* pixels = shown->pixels() + row;
-        const Color* mask_pixels = masked ? marks->mask()->pixels() + row : nullptr;
+        const Color* pixels = now.tile->pixels() + row;
+        const Color* mask_pixels = masked ? now.selection->mask()->pixels() + row : nullptr;
         if (!all && std::equal(pixels, pixels + w, composed_pixels.begin() + std::ptrdiff_t(row)) &&
             (!masked || std::equal(mask_pixels, mask_pixels + w, composed_mask.begin() + std::ptrdiff_t(row))))
             continue;
         std::copy(pixels, pixels + w, composed_pixels.begin() + std::ptrdiff_t(row));
         if (masked) std::copy(mask_pixels, mask_pixels + w, composed_mask.begin() + std::ptrdiff_t(row));
         for (int tx = 0; tx < w; ++tx) {
-            const bool light = ((tx / checker_w) + (ty / checker_h)) % 2 == 0;
-            const Color pixel = shown->get_pixel(tx, ty);
+            const bool light = ((tx / now.checker_w) + (ty / now.checker_h)) % 2 == 0;
+            const Color pixel = now.tile->get_pixel(tx, ty);
             Color inside = over(ui_colors[light ? ui_grey_169 : ui_grey_101], pixel);
             Color grid = pixel;
             grid.alpha = 255;
             if (grid.red < 40 && grid.green < 40 && grid.blue < 40)
-                lighten(grid, grid_contrast);
+                lighten(grid, now.grid_contrast);
             else
-                darken(grid, grid_contrast);
-            if (marks->active() && !is_selected(*marks->mask(), tx, ty)) {
+                darken(grid, now.grid_contrast);
+            if (now.selection->active() && !is_selected(*now.selection->mask(), tx, ty)) {
                 inside = over(inside, ui_colors[ui_white_veil]);
                 grid = over(grid, ui_colors[ui_white_veil]);
             }
@@ -108,34 +95,35 @@ void Canvas_Picture::compose_cells() {
 }
 
 void Canvas_Picture::draw_cells(Main_Window& window, const Frame& frame, int left, int top, int right, int bottom) {
-    take(frame);
-    const int s = cell_size;
-    const size_t cells = size_t(shown->width() * shown->height());
+    now = frame;
+    const int s = now.cell_size;
+    const size_t cells = size_t(now.tile->width() * now.tile->height());
     if (cell_inside.size() < cells) {  // grows with the largest tile seen, not per repaint
         cell_inside.resize(cells);
         cell_grid.resize(cells);
     }
-    if (picture.empty()) picture.resize(size_t(view.width) * size_t(view.height));
+    if (picture.empty()) picture.resize(size_t(now.view.width) * size_t(now.view.height));
     if (!picture_texture) {
         picture_texture = SDL_CreateTexture(window.renderer(), SDL_PIXELFORMAT_ARGB8888, SDL_TEXTUREACCESS_STREAMING,
-                                            view.width, view.height);
+                                            now.view.width, now.view.height);
         SDL_SetTextureBlendMode(picture_texture, SDL_BLENDMODE_NONE);
         SDL_SetTextureScaleMode(picture_texture, SDL_SCALEMODE_NEAREST);
     }
     compose_cells();
     // The picture goes to the screen as one band per tile row, each with its
     // own generation: a stroke uploads and draws again only the rows it changed.
-    const Picture_Key key{Rectangle{left, top, right - left, bottom - top}, origin_x, origin_y, s, shown->width()};
+    const Picture_Key key{Rectangle{left, top, right - left, bottom - top}, now.origin_x, now.origin_y, s,
+                          now.tile->width()};
     const bool all = key != shown_key || shown_inside.size() != cells;
     if (all) {
         shown_key = key;
         shown_inside.assign(cells, 0);
         shown_grid.assign(cells, 0);
-        band_generation.assign(size_t(shown->height()), 0);
+        band_generation.assign(size_t(now.tile->height()), 0);
     }
-    const int w = shown->width();
-    const int first_row = (top - origin_y) / s;
-    const int last_row = (bottom - 1 - origin_y) / s;
+    const int w = now.tile->width();
+    const int first_row = (top - now.origin_y) / s;
+    const int last_row = (bottom - 1 - now.origin_y) / s;
     // Changed bands are composed first and sent to the texture in runs, one
     // upload per run of neighbouring bands: a drag that changes every row
     // costs one upload, not one per row.
@@ -143,11 +131,11 @@ void Canvas_Picture::draw_cells(Main_Window& window, const Frame& frame, int lef
     uint64_t run_generation = 0;
     auto send_run = [&](int end_row) {
         if (run_first < 0) return;
-        const int y0 = std::max(top, origin_y + run_first * s);
-        const int y1 = std::min(bottom, origin_y + end_row * s);
-        const SDL_Rect area{left - view.x, y0 - view.y, right - left, y1 - y0};
-        SDL_UpdateTexture(picture_texture, &area, &picture[size_t(area.y) * size_t(view.width) + size_t(area.x)],
-                          view.width * 4);
+        const int y0 = std::max(top, now.origin_y + run_first * s);
+        const int y1 = std::min(bottom, now.origin_y + end_row * s);
+        const SDL_Rect area{left - now.view.x, y0 - now.view.y, right - left, y1 - y0};
+        SDL_UpdateTexture(picture_texture, &area, &picture[size_t(area.y) * size_t(now.view.width) + size_t(area.x)],
+                          now.view.width * 4);
         run_first = -1;
     };
     for (int ty = first_row; ty <= last_row; ++ty) {
@@ -170,9 +158,10 @@ void Canvas_Picture::draw_cells(Main_Window& window, const Frame& frame, int lef
     }
     send_run(last_row + 1);
     for (int ty = first_row; ty <= last_row; ++ty) {
-        const int y0 = std::max(top, origin_y + ty * s);
-        const int y1 = std::min(bottom, origin_y + (ty + 1) * s);
-        const SDL_FRect picture_part{float(left - view.x), float(y0 - view.y), float(right - left), float(y1 - y0)};
+        const int y0 = std::max(top, now.origin_y + ty * s);
+        const int y1 = std::min(bottom, now.origin_y + (ty + 1) * s);
+        const SDL_FRect picture_part{float(left - now.view.x), float(y0 - now.view.y), float(right - left),
+                                     float(y1 - y0)};
         const SDL_FRect screen_part{float(left), float(y0), float(right - left), float(y1 - y0)};
         window.sink().copy(picture_texture, band_generation[size_t(ty)], false, picture_part, screen_part);
     }
@@ -189,7 +178,7 @@ void Canvas_Picture::compose_band(const Picture_Key& key, int ty) {
     const int top = std::max(key.area.y, key.origin_y + ty * s);
     const int bottom = std::min(key.area.y + key.area.height, key.origin_y + (ty + 1) * s);
     const int w = key.tile_width;
-    const size_t stride = size_t(view.width);
+    const size_t stride = size_t(now.view.width);
     const size_t span = size_t(right - left);
     const uint32_t* inside = &cell_inside[size_t(ty * w)];
     const uint32_t* grid = &cell_grid[size_t(ty * w)];
@@ -197,7 +186,7 @@ void Canvas_Picture::compose_band(const Picture_Key& key, int ty) {
         const int iy = (y - key.origin_y) % s;
         const bool grid_row = iy == s - 1;
         const int run = std::min(bottom - y, grid_row ? 1 : s - 1 - iy);
-        uint32_t* row = &picture[size_t(y - view.y) * stride + size_t(left - view.x)];
+        uint32_t* row = &picture[size_t(y - now.view.y) * stride + size_t(left - now.view.x)];
         // Cell by cell: s - 1 pixels of the inside and one of grid (a grid
         // row is grid throughout), cut to the area at both ends.
         uint32_t* out = row;
@@ -229,9 +218,9 @@ void Canvas_Picture::compose_band(const Picture_Key& key, int ty) {
 // uploaded again. Where it wraps onto itself the later pixels show, as they
 // would be stamped.
 void Canvas_Picture::draw_float(Main_Window& window, const Frame& frame) {
-    take(frame);
-    const Tile& image = *marks->floating_image();
-    const int s = cell_size;
+    now = frame;
+    const Tile& image = *now.selection->floating_image();
+    const int s = now.cell_size;
     const int fw = image.width();
     const int fh = image.height();
     if (fw <= 0 || fh <= 0) return;
@@ -265,17 +254,18 @@ void Canvas_Picture::draw_float(Main_Window& window, const Frame& frame) {
         SDL_UpdateTexture(float_texture, nullptr, float_picture.data(), tw * 4);
         float_generation = Draw_Sink::fresh_generation();
     }
-    const int w = shown->width();
-    const int h = shown->height();
-    window.clip(Rectangle{origin_x, origin_y, extent_w, extent_h}.intersection(view));
+    const int w = now.tile->width();
+    const int h = now.tile->height();
+    window.clip(Rectangle{now.origin_x, now.origin_y, now.extent_w, now.extent_h}.intersection(now.view));
     const SDL_FRect source{0, 0, float(tw), float(th)};
-    const int fx = floating::wrap(marks->float_x(), w);
-    const int fy = floating::wrap(marks->float_y(), h);
+    const int fx = floating::wrap(now.selection->float_x(), w);
+    const int fy = floating::wrap(now.selection->float_y(), h);
     for (int j = 0; fy - j * h + fh > 0; ++j)
         for (int i = 0; fx - i * w + fw > 0; ++i) {
             const int x = fx - i * w;
             const int y = fy - j * h;
-            const SDL_FRect place{float(origin_x + x * s), float(origin_y + y * s), float(fw * s), float(fh * s)};
+            const SDL_FRect place{float(now.origin_x + x * s), float(now.origin_y + y * s), float(fw * s),
+                                  float(fh * s)};
             window.sink().copy(float_texture, float_generation, true, source, place);
         }
     window.end_clip();

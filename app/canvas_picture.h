@@ -48,21 +48,10 @@ public:
     void draw_float(Main_Window& window, const Frame& frame);
 
 private:
-    void take(const Frame& frame);
     void compose_cells();
 
     // The frame being drawn.
-    const Tile* shown = nullptr;
-    const Tile_Selection* marks = nullptr;
-    Rectangle view;
-    int origin_x = 0;
-    int origin_y = 0;
-    int cell_size = 0;
-    int extent_w = 0;
-    int extent_h = 0;
-    int checker_w = 1;
-    int checker_h = 1;
-    int grid_contrast = 0;
+    Frame now;
 
     // The composed picture of the visible cells, kept between repaints.
     std::vector<uint32_t> cell_inside;
