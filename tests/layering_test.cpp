@@ -12,7 +12,9 @@
 // The source folders are layers: a file may include its own folder's files and
 // those of folders below it, never one above. Within the model the sub-folders
 // are layers too; the feature folders sit side by side and do not include
-// each other. This scan keeps that true as the code grows.
+// each other. This scan keeps that true as the code grows. Above the platform
+// nothing draws on the renderer itself: a repaint that did would land under
+// the kept frame and vanish, so all drawing goes through the window's sink.
 namespace {
 
 namespace fs = std::filesystem;
@@ -47,14 +49,19 @@ Layer layer_of(const std::string& path) {
     return best;
 }
 
-std::vector<std::string> includes_of(const fs::path& file) {
+// The includes of a file, and whether it calls the renderer's drawing functions.
+std::vector<std::string> includes_of(const fs::path& file, bool& draws) {
     static const std::regex include(R"re(^\s*#\s*include\s*"([^"]+)")re");
+    static const std::regex drawing_call(R"(SDL_(Render[A-Z]\w*|SetRender\w*)\s*\()");
     std::vector<std::string> found;
     std::ifstream in(file);
     std::string line;
     std::smatch m;
-    while (std::getline(in, line))
+    draws = false;
+    while (std::getline(in, line)) {
         if (std::regex_search(line, m, include)) found.push_back(m[1]);
+        draws = draws || std::regex_search(line, drawing_call);
+    }
     return found;
 }
 
@@ -72,7 +79,10 @@ std::vector<std::string> breaches(const fs::path& root) {
                 out.push_back(file + " lies in no layer");
                 continue;
             }
-            for (const auto& included : includes_of(entry.path())) {
+            bool draws = false;
+            const auto included_files = includes_of(entry.path(), draws);
+            if (draws && from.rank > layer_of("platform/").rank) out.push_back(file + " draws on the renderer");
+            for (const auto& included : included_files) {
                 if (!fs::exists(root / included)) continue;  // a header beside the file
                 const Layer to = layer_of(included);
                 const bool above = to.rank > from.rank;
@@ -110,6 +120,7 @@ TEST(Layering, NoFolderIncludesOneAboveIt) {
     write("features/color/swatch.h", "\n");
     write("app/stray/odd.h", "#include \"app/editor.h\"\n");
     write("app/editor.h", "#include \"features/map/map_view.h\"\n");
+    write("ui/menu.cpp", "void f() { SDL_RenderFillRect(r, &a); }\n");
     write("features/loose.h", "\n");
     const auto seeded = breaches(tree);
     fs::remove_all(tree);
@@ -117,6 +128,7 @@ TEST(Layering, NoFolderIncludesOneAboveIt) {
         "features/loose.h lies in no layer",
         "features/map/map_view.h -> features/color/swatch.h",
         "model/tile/tile.h -> ui/pane.h",
+        "ui/menu.cpp draws on the renderer",
     };
     EXPECT_EQ(seeded, expected);
 }

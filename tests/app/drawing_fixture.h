@@ -31,11 +31,6 @@ protected:
         push_key(k, mod);
         pump();
     }
-    static SDL_Point cell_centre(int tx, int ty) {
-        const Canvas_View& c = g_editor->canvas();
-        const int s = c.pixel_size();
-        return SDL_Point{c.origin().x + tx * s + s / 2, c.origin().y + ty * s + s / 2};
-    }
     // A press at the first cell, a move to each further cell, the release at
     // the last, with the given button.
     static void stroke(const std::vector<SDL_Point>& cells, Uint8 button = SDL_BUTTON_LEFT) {

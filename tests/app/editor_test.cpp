@@ -52,18 +52,7 @@ struct Recording_Action : Stroke_Action {
 };
 }  // namespace
 
-class EditorTest : public Editor_Fixture {
-protected:
-    void TearDown() override {
-        set_file_chooser(nullptr);
-        Headless::TearDown();
-    }
-    static SDL_Point cell_centre(int tx, int ty) {
-        const Canvas_View& c = g_editor->canvas();
-        const int s = c.pixel_size();
-        return SDL_Point{c.origin().x + tx * s + s / 2, c.origin().y + ty * s + s / 2};
-    }
-};
+using EditorTest = Editor_Fixture;
 
 TEST_F(EditorTest, KeysFollowTheModifierOrderAndModifiersAloneDoNothing) {
     Scripted_Chooser chooser;
@@ -175,40 +164,6 @@ TEST_F(EditorTest, CtrlRightDragPansAndAQuitDuringThePanOnlyEndsIt) {
     EXPECT_EQ(g_editor->pointer().y, 297.f);
 }
 
-TEST_F(EditorTest, WheelZoomKeepsTheCentreAndStopsAtTheLimits) {
-    Canvas_View& c = g_editor->canvas();
-    const int centre_x = c.origin().x + c.extent_width() / 2;
-    SDL_Event wheel{};
-    wheel.type = SDL_EVENT_MOUSE_WHEEL;
-    wheel.wheel.y = 1;
-    g_editor->handle(wheel);
-    EXPECT_EQ(c.pixel_size(), 14);
-    EXPECT_NEAR(c.origin().x + c.extent_width() / 2, centre_x, 1);
-    for (int i = 0; i < 40; ++i) g_editor->handle(wheel);
-    EXPECT_EQ(c.pixel_size(), 32);
-    const SDL_Point at_top = c.origin();
-    g_editor->handle(wheel);
-    EXPECT_EQ(c.origin().x, at_top.x);
-    wheel.wheel.y = -1;
-    for (int i = 0; i < 40; ++i) g_editor->handle(wheel);
-    EXPECT_EQ(c.pixel_size(), 3);
-}
-
-TEST_F(EditorTest, MenuCommandsRunWithThePointerMovedOffTheWindow) {
-    Scripted_Chooser chooser;
-    chooser.result = file_cancelled;
-    chooser.install();
-    const Menu& file = g_editor->menus().menu(0);
-    const Rectangle save_row = file.items[4].area;  // " Save "
-    Event_Script script;
-    script.then([&] { push_click(save_row.x + 5, save_row.y + 5); });
-    push_click(file.title.area.x + 3, 5);
-    pump();
-    EXPECT_EQ(chooser.calls, 1);
-    EXPECT_EQ(g_editor->pointer().x, -1);
-    EXPECT_EQ(g_editor->pointer().y, -1);
-}
-
 TEST_F(EditorTest, SaveAfterLoadAsksForANameAndSavesUnderTheForcedExtension) {
     Temp_Dir dir;
     Scripted_Chooser chooser;
@@ -261,15 +216,6 @@ TEST_F(EditorTest, TabsMakeTheirTilesetCurrentAndCloseFollowsTheListRules) {
     ASSERT_EQ(e.tilesets().count(), 2);
     EXPECT_EQ(e.current()->path().full, "untitled3.wst");  // the one that followed
     EXPECT_EQ(e.canvas().tile()->width(), 32);
-}
-
-TEST(FileDialog, SaveKindsForceTheirExtensionAndOpenKindsKeepTheName) {
-    EXPECT_EQ(force_extension("tiles.bmp", file_save_tileset), "tiles.wst");
-    EXPECT_EQ(force_extension("tiles", file_save_tileset), "tiles.wst");
-    EXPECT_EQ(force_extension("my.tiles.png", file_save_bmp), "my.tiles.bmp");
-    EXPECT_EQ(force_extension("/home/a.b/tiles", file_save_tileset), "/home/a.b/tiles.wst");
-    EXPECT_EQ(force_extension("tiles.png", file_open_tileset), "tiles.png");
-    EXPECT_EQ(force_extension("tiles.png", file_open_bmp), "tiles.png");
 }
 
 TEST_F(EditorTest, NewTilesetDialogKeepsItsValuesAndCanResizeInstead) {

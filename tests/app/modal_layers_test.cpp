@@ -150,10 +150,6 @@ TEST_F(ModalLayers, OptionsDialog) { through_menu("Options", command_options); }
 
 TEST_F(ModalLayers, NewTilesetDialog) { through_menu("New tileset", command_new); }
 
-TEST_F(ModalLayers, QuitQuestionOpenedOverTheCanvas) {
-    expect_drawn_whole("Quit question", [] { push_key(SDLK_ESCAPE); });
-}
-
 TEST_F(ModalLayers, CloseQuestion) { through_menu("Close question", command_close); }
 
 TEST_F(ModalLayers, MapEditor) { through_menu("Map editor", command_map_editor); }
@@ -165,22 +161,6 @@ TEST_F(ModalLayers, HelpBoxOfAToolButton) {
     ASSERT_EQ(g_editor->tools().command_at(g_main_window->mouse_position().x, g_main_window->mouse_position().y),
               int(command_pen));
     expect_drawn_whole("Help box", [] { push_key(SDLK_F1); });
-}
-
-TEST_F(ModalLayers, StatisticsOpenedOverTheCanvas) {
-    const SDL_Point p = centre(Editor::canvas_area);
-    g_main_window->warp(p.x, p.y);
-    expect_drawn_whole("Statistics", [] { push_key(SDLK_F1); });
-}
-
-TEST_F(ModalLayers, AboutBox) { through_menu("About", command_about); }
-
-TEST_F(ModalLayers, MenuOpenedAfterAnother) {
-    const Menu_Bar& bar = g_editor->menus();
-    const SDL_Point first = centre(bar.menu(0).title.area);
-    const SDL_Point other = centre(bar.menu(4).title.area);
-    expect_drawn_whole("Menu", [first] { push_click(first.x, first.y); },
-                       {[other] { push_motion(other.x, other.y); }});
 }
 
 TEST_F(ModalLayers, ColorEditor) { through_menu("Color editor", command_color_editor); }

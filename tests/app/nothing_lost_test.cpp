@@ -51,11 +51,6 @@ protected:
             return int(file_chosen);
         });
     }
-    static SDL_Point cell_centre(int tx, int ty) {
-        const Canvas_View& c = g_editor->canvas();
-        const int s = c.pixel_size();
-        return SDL_Point{c.origin().x + tx * s + s / 2, c.origin().y + ty * s + s / 2};
-    }
     // A press and release on the canvas with the current tool.
     static void click_canvas(SDL_Point p) {
         Event_Script script;
@@ -171,10 +166,7 @@ TEST_F(NothingLostTest, AFatalReadErrorKeepsTheUnsavedTilesetsFirst) {
     const std::string cut = (work_dir / "cut.wst").string();
     ASSERT_EQ(Tileset_File::write(two, cut), 11 + 2 * 6 * 6 * 4);
     fs::resize_file(cut, 11 + 6 * 6 * 4 + 5);
-    set_file_chooser([cut](int, const std::string&, std::string& chosen) {
-        chosen = cut;
-        return int(file_chosen);
-    });
+    answer_files_with(cut);
     // Exactly the block error and nothing else is printed.
     EXPECT_EXIT(
         {

@@ -33,16 +33,6 @@ TEST_F(RepaintCache, APaletteColourChangeShowsOnTheNextRepaint) {
     EXPECT_EQ(read_pixel(cell_centre(6).x, cell_centre(6).y), g_palette->color(0, 6));
 }
 
-TEST_F(RepaintCache, ATranslucentPaletteColourIsBlendedOverTheCellBackground) {
-    const SDL_Point p = cell_centre(2);
-    g_palette->set_color(0, 2, Color(255, 255, 255, 0));
-    g_editor->repaint(false);
-    EXPECT_EQ(read_pixel(p.x, p.y), ui_colors[ui_dark_grey]);
-    g_palette->set_color(0, 2, Color(1, 2, 3));
-    g_editor->repaint(false);
-    EXPECT_EQ(read_pixel(p.x, p.y), Color(1, 2, 3));
-}
-
 TEST_F(RepaintCache, TheBrushButtonsFollowTheCurrentShapeAndSize) {
     Brush_Selector& b = g_tool_options->brushes();
     // A point of each button's face that no brush and no bevel covers.

@@ -98,22 +98,12 @@ int steps_of_run() {
 
 class Checker : public Editor_Fixture {
 protected:
-    void TearDown() override {
-        set_file_chooser(nullptr);
-        Headless::TearDown();
-    }
-
     int pick(int n) { return int(random() % uint64_t(n)); }
     Tileset& current() { return *g_editor->current(); }
 
-    SDL_Point cell_point(int x, int y) {
-        const Canvas_View& c = g_editor->canvas();
-        const int s = c.pixel_size();
-        return SDL_Point{c.origin().x + x * s + s / 2, c.origin().y + y * s + s / 2};
-    }
     SDL_Point random_cell() {
         const Tile* tile = g_editor->canvas().tile();
-        return cell_point(pick(tile->width()), pick(tile->height()));
+        return cell_centre(pick(tile->width()), pick(tile->height()));
     }
 
     // A drag on the canvas with the current tool, notes answered with Escape.
@@ -127,14 +117,6 @@ protected:
         drop_pending_events();
     }
 
-    // A command through the dispatch; any note or question it shows is
-    // closed with Escape (no to a question).
-    void command(int c) {
-        Event_Script script;
-        for (int i = 0; i < 4; ++i) script.then([] { push_key(SDLK_ESCAPE); });
-        g_editor->run_command(c);
-        drop_pending_events();
-    }
 
     void arrange_swap() {
         const int count = current().store().tile_count();
@@ -167,12 +149,12 @@ protected:
     }
 
     void select_rectangle() {
-        command(command_rectangle_selector);
+        run(command_rectangle_selector);
         drag(random_cell(), random_cell());
     }
 
     void work_drag() {
-        command(command_work_selection);
+        run(command_work_selection);
         Canvas_View& view = g_editor->canvas();
         SDL_Point from = random_cell();
         // Mostly from the selection or the image, so that it lifts and moves.
@@ -181,7 +163,7 @@ protected:
             const int x = pick(tile->width());
             const int y = pick(tile->height());
             if (view.tile_selection().on_float(x, y) || (view.tile_selection().active() && view.tile_selection().mask()->is_white(x, y))) {
-                from = cell_point(x, y);
+                from = cell_centre(x, y);
                 break;
             }
         }
@@ -189,7 +171,7 @@ protected:
     }
 
     void pen_dab() {
-        command(command_pen);
+        run(command_pen);
         g_tool_options->color_tools().set_tool_color(
             0, Color(uint8_t(pick(256)), uint8_t(pick(256)), uint8_t(pick(256)), uint8_t(pick(2) ? 255 : pick(256))));
         const SDL_Point p = random_cell();
@@ -213,11 +195,8 @@ protected:
         Tileset& t = current();
         const Seen before = seen(t);
         const std::string path = (dir.path / ("check" + std::to_string(++saves) + ".wst")).string();
-        set_file_chooser([path](int, const std::string&, std::string& chosen) {
-            chosen = path;
-            return int(file_chosen);
-        });
-        command(command_save_as);
+        answer_files_with(path);
+        run(command_save_as);
         set_file_chooser(nullptr);
         ASSERT_FALSE(t.is_modified()) << log();
         ASSERT_TRUE(seen(t) == before) << "saving changed what the user sees\n" << log();
@@ -242,7 +221,7 @@ protected:
         Tileset& t = current();
         if (track.steps[track.at].first == 't') {
             const int position = t.history().position();
-            command(command_undo);
+            run(command_undo);
             if (t.history().position() == position) {
                 // The history's floor: the steps before it are gone for good.
                 track.steps.erase(track.steps.begin(), track.steps.begin() + long(track.at));
@@ -260,7 +239,7 @@ protected:
         if (track.at + 1 >= track.steps.size()) return;
         Tileset& t = current();
         if (track.steps[track.at + 1].first == 't')
-            command(command_redo);
+            run(command_redo);
         else
             ASSERT_TRUE(t.map().redo()) << log();
         ++track.at;
@@ -269,13 +248,6 @@ protected:
 
     void expect_step(Track& track, const char* what) {
         const Seen now = seen(current());
-        if (std::getenv("MOSSWICK_CHECKER_TRACE")) {
-            const Undo_History& h = current().history();
-            std::fprintf(stderr, "  %s to step %zu (%c), record %d of %d: %s, tile %d\n", what, track.at,
-                         track.steps[track.at].first, h.position(), h.count(),
-                         h.position() >= 0 ? commands::name(h.at(h.position()).undo_command() < 0 ? 0 : h.at(h.position()).undo_command()) : "-",
-                         h.position() >= 0 ? h.at(h.position()).tile_index() : -1);
-        }
         ASSERT_TRUE(now == track.steps[track.at].second)
             << what << " did not give back step " << track.at << ": " << describe(now, track.steps[track.at].second)
             << "\n"
@@ -378,21 +350,20 @@ TEST_F(Checker, UndoRedoSaveAndLoadGiveBackWhatTheUserSaw) {
                          (g_editor->canvas().tile_selection().float_pending() ? ", floating" : ""));
         if (recent.size() > 12) recent.pop_front();
         const Seen before = op < 18 ? seen(t) : Seen{};
-        if (std::getenv("MOSSWICK_CHECKER_TRACE")) std::fprintf(stderr, "%s\n", recent.back().c_str());
         switch (op) {
             case 0: pen_dab(); break;
-            case 1: command(command_add_new_tile); break;
-            case 2: command(command_insert_new_tile); break;
-            case 3: command(command_delete_tile); break;
-            case 4: command(command_next_tile); break;
-            case 5: command(command_previous_tile); break;
+            case 1: run(command_add_new_tile); break;
+            case 2: run(command_insert_new_tile); break;
+            case 3: run(command_delete_tile); break;
+            case 4: run(command_next_tile); break;
+            case 5: run(command_previous_tile); break;
             case 6: select_rectangle(); break;
             case 7: work_drag(); break;
-            case 8: command(command_copy); break;
-            case 9: command(command_cut); break;
-            case 10: command(command_paste); break;
-            case 11: command(command_clone); break;
-            case 12: command(command_deselect); break;
+            case 8: run(command_copy); break;
+            case 9: run(command_cut); break;
+            case 10: run(command_paste); break;
+            case 11: run(command_clone); break;
+            case 12: run(command_deselect); break;
             case 13: g_tool_options->set_selection_mode(pick(3)); break;
             case 14: map_stroke(); break;
             case 15: arrange_swap(); break;

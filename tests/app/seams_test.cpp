@@ -64,17 +64,8 @@ protected:
         tileset().history().restart(store());
         g_editor->canvas().set_tile(store().current_tile());
     }
-    static void run(int command) {
-        Event_Script script;
-        for (int i = 0; i < 3; ++i) script.then([] { push_key(SDLK_ESCAPE); });
-        g_editor->run_command(command);
-        drop_pending_events();
-    }
     void save_as(const fs::path& path) {
-        set_file_chooser([path](int, const std::string&, std::string& chosen) {
-            chosen = path.string();
-            return int(file_chosen);
-        });
+        answer_files_with(path.string());
         run(command_save_as);
     }
     Temp_Dir dir;

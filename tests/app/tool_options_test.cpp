@@ -20,18 +20,6 @@ protected:
 };
 }  // namespace
 
-TEST_F(ToolOptions, ToolsShowTheirPagesAndRememberThePreviousTool) {
-    Tool_Options_Pane& t = *g_tool_options;
-    EXPECT_EQ(t.tool(), command_pen);
-    g_editor->run_command(command_dropper);
-    EXPECT_EQ(t.page(), 4);
-    EXPECT_EQ(t.previous_tool(), command_pen);
-    g_editor->run_command(command_work_selection);
-    EXPECT_EQ(t.page(), 16);
-    EXPECT_EQ(t.previous_tool(), command_dropper);
-    EXPECT_EQ(g_editor->current_tool(), command_work_selection);
-}
-
 TEST_F(ToolOptions, RowsTakeClicksOnTheirPagesAndTheHiddenRightButtonRowToo) {
     g_editor->run_command(command_lightness_pen);
     press_row(tool_pages::row_speed);

@@ -2,7 +2,6 @@
 // the history viewer, in the running editor.
 #include "app/undo_control.h"
 #include "tests/app/drawing_fixture.h"
-#include "ui/backdrop.h"
 #include "features/viewers/undo_meter.h"
 
 namespace {
@@ -30,32 +29,6 @@ TEST_F(Drawing, CtrlZAndCtrlRUndoAndRedoAStroke) {
     key(SDLK_Z, SDL_KMOD_CTRL);
     EXPECT_EQ(history().position(), 0);
     EXPECT_FALSE(g_editor->undo().undo());
-}
-
-TEST_F(Drawing, TwentyStrokesKeepEighteenRecords) {
-    use_tool(command_pen);
-    for (int i = 0; i < 20; ++i) {
-        set_colors(Color(uint8_t(10 * i), 0, 0), white);
-        stroke({{i, 0}});
-    }
-    EXPECT_EQ(history().count(), 18);
-    for (int i = 0; i < 17; ++i) EXPECT_TRUE(g_editor->undo().undo()) << i;
-    EXPECT_FALSE(g_editor->undo().undo());
-    // The floor holds the third stroke: two fell off the front.
-    EXPECT_EQ(tile().get_pixel(2, 0), Color(20, 0, 0));
-    EXPECT_EQ(tile().get_pixel(3, 0), Color());
-}
-
-TEST_F(Drawing, ANewStrokeAfterUndoDropsTheRedoTail) {
-    use_tool(command_pen);
-    set_colors(red, blue);
-    stroke({{1, 1}});
-    stroke({{2, 2}});
-    key(SDLK_Z, SDL_KMOD_CTRL);
-    stroke({{3, 3}});
-    EXPECT_EQ(history().count(), 3);
-    EXPECT_FALSE(g_editor->undo().redo());
-    EXPECT_EQ(tile().get_pixel(2, 2), Color());
 }
 
 TEST_F(Drawing, UndoOfNextTileReturnsToTheEarlierTile) {
@@ -87,13 +60,6 @@ TEST_F(Drawing, UndoOfAScrollRunsTheOppositeScroll) {
     EXPECT_EQ(tile().get_pixel(0, 1), Color());
 }
 
-TEST_F(Drawing, ChoosingAToolRecordsNothingAndLeavesTheTilesetUnmodified) {
-    use_tool(command_line);
-    use_tool(command_pen);
-    EXPECT_EQ(history().count(), 1);
-    EXPECT_FALSE(g_editor->current()->is_modified());
-}
-
 TEST_F(Drawing, TheMeterShowsOneOrangeBarAtTheCurrentRecord) {
     use_tool(command_pen);
     set_colors(red, blue);
@@ -115,21 +81,4 @@ TEST_F(Drawing, TheMeterShowsOneOrangeBarAtTheCurrentRecord) {
     // The meter stays beside the tool bar, inside the left column.
     EXPECT_GE(meter.outer_area().x, 28);
     EXPECT_LE(meter.outer_area().x + meter.outer_area().width, 264);
-}
-
-TEST_F(Drawing, TheHistoryViewerOpensFromItsCommandAndClosesWithEscape) {
-    use_tool(command_pen);
-    set_colors(red, blue);
-    stroke({{1, 1}});
-    int depth_inside = 0;
-    Event_Script script;
-    script.then([&] {
-        depth_inside = Backdrop::depth();
-        push_key(SDLK_ESCAPE);
-    });
-    g_editor->run_command(command_view_undo_history);
-    EXPECT_EQ(depth_inside, 1);
-    EXPECT_EQ(script.left(), 0u);
-    EXPECT_FALSE(script.ran_out());
-    EXPECT_EQ(history().count(), 2);
 }

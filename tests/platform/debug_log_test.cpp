@@ -4,9 +4,6 @@
 
 #include <string>
 
-#include "platform/globals.h"
-#include "platform/main_window.h"
-#include "support/headless.h"
 
 TEST(DebugLog, NumbersLinesMarksWarningsAndKeepsOnlyWhatFits) {
     Debug_Log log(27);
@@ -25,22 +22,3 @@ TEST(DebugLog, NumbersLinesMarksWarningsAndKeepsOnlyWhatFits) {
     EXPECT_EQ(log.counter(), 100u);
 }
 
-class DebugMonitor : public Headless {};
-
-TEST_F(DebugMonitor, ShowsTheLinesUntilAKeyAndClearsTheWarning) {
-    Debug_Log log(27);
-    log.warn("something odd");
-    push_key(SDLK_SPACE);
-    log.show(*g_main_window);
-    EXPECT_FALSE(log.has_warning());
-    // The lines and the closing "---" stand in dark ink on the background.
-    const int rows = 2 * g_main_window->line_height();
-    int ink = 0;
-    for (int y = 0; y < rows; ++y)
-        for (int x = 0; x < 200; ++x)
-            if (read_pixel(x, y).red < 60) ++ink;
-    EXPECT_GT(ink, 40);
-    // The key was consumed and the queue flushed.
-    SDL_Event e;
-    EXPECT_FALSE(SDL_PollEvent(&e));
-}

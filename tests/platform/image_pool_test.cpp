@@ -34,23 +34,3 @@ TEST(PoolSheet, HoldsAllPrintableCharactersInEveryFontAndInkInEverySprite) {
     }
 }
 
-class PaneHeader : public Headless {};
-
-TEST_F(PaneHeader, CapsFrameTheTitleOnTheHeaderColour) {
-    Main_Window& w = *g_main_window;
-    const Image_Pool& pool = w.pool();
-    const int width = pool.text_width(font_pane_header, "Tiles");
-    Texture* header = pool.make_pane_header(w.renderer(), width, "Tiles");
-    ASSERT_NE(header, nullptr);
-    EXPECT_EQ(header->width(), 5 + width + 22);
-    EXPECT_EQ(header->height(), 21);
-    w.clear();
-    header->draw_at(0, 0);
-    EXPECT_EQ(read_pixel(5 + width / 2, 0), Color(183, 183, 183));
-    int body = 0;
-    for (int x = 5; x < 5 + width; ++x)
-        for (int y = 1; y < 21; ++y) body += read_pixel(x, y) == header_color;
-    EXPECT_GT(body, width * 20 / 2);  // mostly header colour,
-    EXPECT_LT(body, width * 20);      // with the title written on it
-    delete header;
-}

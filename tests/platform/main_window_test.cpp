@@ -5,24 +5,10 @@
 #include <vector>
 
 #include "platform/globals.h"
-#include "platform/sprites.h"
-#include "platform/strip_layout.h"
 #include "platform/texture.h"
 #include "platform/ui_colors.h"
 #include "support/headless.h"
-#include "platform/image_pool.h"
 
-namespace {
-Color sheet_pixel(int x, int y) {
-    const Image::Rgba p = g_main_window->pool().image().get_pixel(x, y);
-    return Color(p.r, p.g, p.b, p.a);
-}
-// What a sheet pixel looks like drawn over the background.
-Color drawn(int x, int y) {
-    const Color c = sheet_pixel(x, y);
-    return c.alpha == 255 ? c : Color(137, 137, 137);
-}
-}  // namespace
 
 class MainWindow : public Headless {};
 
@@ -78,39 +64,4 @@ TEST_F(MainWindow, PixelTexturesShowTheColoursTheyWereGiven) {
     EXPECT_EQ(t->width(), 2);
     EXPECT_EQ(t->height(), 2);
     delete t;
-}
-
-TEST_F(MainWindow, SpritesAndEdgePiecesCopyTheSheet) {
-    Main_Window& w = *g_main_window;
-    const SDL_FRect logo = w.pool().sprite_rect(sprite_logo);
-    w.clear();
-    w.sprite(sprite_logo, 0, 0);
-    int compared = 0;
-    for (int y = 0; y < int(logo.h); y += 3)
-        for (int x = 0; x < int(logo.w); x += 3) {
-            const Color s = sheet_pixel(int(logo.x) + x, int(logo.y) + y);
-            if (s.alpha != 255) continue;
-            EXPECT_EQ(read_pixel(x, y), s);
-            ++compared;
-        }
-    EXPECT_GT(compared, 100);
-
-    // A thick selection edge, s = 8, with and without the phase shift of 2.
-    const SDL_FRect h = w.pool().sprite_rect(sprite_horiz_selector_two);
-    const SDL_FRect v = w.pool().sprite_rect(sprite_verti_selector_two);
-    w.clear();
-    w.edge_h(Edge_Kind::selection, 400, 400, 8, false);
-    w.edge_h(Edge_Kind::selection, 400, 410, 8, true);
-    w.edge_v(Edge_Kind::selection, 420, 400, 8, true);
-    for (int i = 0; i < 8; ++i) {
-        EXPECT_EQ(read_pixel(400 + i, 401), drawn(int(h.x) + i, int(h.y) + 1));
-        EXPECT_EQ(read_pixel(400 + i, 410), drawn(int(h.x) + 2 + i, int(h.y)));
-        EXPECT_EQ(read_pixel(421, 400 + i), drawn(int(v.x) + 1, int(v.y) + 2 + i));
-    }
-    EXPECT_EQ(read_pixel(408, 401), Color(137, 137, 137));  // s pixels long, no more
-    // A thin piece at s = 6.
-    const SDL_FRect thin = w.pool().sprite_rect(sprite_horiz_active_select_one);
-    w.edge_h(Edge_Kind::active_selection, 400, 420, 6, false);
-    for (int i = 0; i < 6; ++i) EXPECT_EQ(read_pixel(400 + i, 420), drawn(int(thin.x) + i, int(thin.y)));
-    EXPECT_EQ(read_pixel(400, 421), Color(137, 137, 137));
 }

@@ -62,13 +62,6 @@ TEST_F(NumberPrompt, AnEntryOutsideTheBoundsIsRefusedVisibly) {
         push_key(13);
     });
     EXPECT_EQ(Number_Prompt::ask(x, y, 64, 0, 255), 3);
-    Event_Script lone_minus;
-    lone_minus.then([] {
-        type("-");
-        push_key(13);
-    }).then([] { push_key(27); });
-    EXPECT_EQ(Number_Prompt::ask(x, y, 64, -9, 9), std::nullopt);
-    EXPECT_EQ(read_pixel(corner_x, corner_y), prompt_refused_color);
 }
 
 TEST_F(NumberPrompt, APressOnANumberItemOpensThePromptInsideTheDialog) {

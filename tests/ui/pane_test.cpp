@@ -42,10 +42,7 @@ TEST_F(PaneTest, InformationPanesWriteOnePixelAboveTheClientArea) {
     const Rectangle where{300, 200, 120, 30};
     Location_Info location(where, "Pos");
     location.set(-5, 17);
-    Number_Info number(where, "Size");
-    number.set(-42);
     Text_Pane plain(where, "Pos");
-    Text_Pane plain_number(where, "Size");
     const Rectangle c = plain.get_area();
     Text_Writer& pane_font = g_main_window->writer(font_pane);
 
@@ -65,15 +62,4 @@ TEST_F(PaneTest, InformationPanesWriteOnePixelAboveTheClientArea) {
     SDL_DestroySurface(drawn);
     SDL_DestroySurface(expected);
     SDL_DestroySurface(one_lower);
-
-    g_main_window->clear();
-    number.draw();
-    drawn = read_frame();
-    g_main_window->clear();
-    plain_number.draw();
-    pane_font.write_at(c.x, c.y - 1, "-42");
-    expected = read_frame();
-    EXPECT_TRUE(same_frame(drawn, expected));
-    SDL_DestroySurface(drawn);
-    SDL_DestroySurface(expected);
 }

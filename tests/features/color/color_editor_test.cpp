@@ -89,24 +89,6 @@ TEST_F(ColorEditorTest, ATabShowsItsPageAndTheMainPaletteFollowsOnClosing) {
     EXPECT_EQ(g_tool_options->color_tools().palette_area().page(), 1);
 }
 
-TEST_F(ColorEditorTest, EditHsvRaisesTheValueOfTheTile) {
-    Tile& tile = *g_editor->canvas().tile();
-    tile.fill(Color(100, 0, 0));
-    Edit_HSV_Dialog d(tile);
-    const Rectangle more = d.dialog().find(Edit_HSV_Dialog::mode_id)->area;
-    const Rectangle slider = d.dialog().find(Edit_HSV_Dialog::slider_id)->area;
-    // The mode list starts at "Hue"; two presses of its "More" give "Value",
-    // and a press at the far end of the slider the amount 100.
-    Event_Script script;
-    script.then([&] { push_click(more.x + 3, more.y + 3); })
-        .then([&] { push_click(more.x + 3, more.y + 3); })
-        .then([&] { push_click(slider.x + 257, slider.y + 5); })
-        .then([&] { push_key(SDLK_RETURN); });
-    EXPECT_TRUE(d.run());
-    EXPECT_EQ(d.dialog().value_of(Edit_HSV_Dialog::mode_id + 1), 7);
-    EXPECT_EQ(tile.get_pixel(3, 3), Color(200, 0, 0));
-}
-
 TEST_F(ColorEditorTest, AnAcceptedAdjustHsvIsOneStepThatUndoRestoresWithoutTheDialog) {
     Tile& tile = *g_editor->canvas().tile();
     tile.fill(Color(100, 0, 0));
@@ -146,17 +128,4 @@ TEST_F(ColorEditorTest, AnAcceptedAdjustHsvIsOneStepThatUndoRestoresWithoutTheDi
     EXPECT_FALSE(script.ran_out());
     EXPECT_EQ(tile.get_pixel(3, 3), Color(100, 0, 0));
     EXPECT_EQ(t.history().count(), records + 1);
-}
-
-TEST_F(ColorEditorTest, AdjustHsvFromItsButtonChangesTheTileAndCancelKeepsIt) {
-    Tile& tile = *g_editor->canvas().tile();
-    tile.fill(Color(10, 20, 30));
-    const Rectangle b = g_tool_options->adjust_button();
-    Event_Script script;
-    script.then([] { push_key(SDLK_ESCAPE); });
-    push_click(b.x + 5, b.y + 5);
-    SDL_Event e;
-    while (SDL_PollEvent(&e)) g_editor->handle(e);
-    EXPECT_FALSE(script.ran_out());
-    EXPECT_EQ(tile.get_pixel(0, 0), Color(10, 20, 30));
 }

@@ -2,26 +2,8 @@
 
 #include <gtest/gtest.h>
 
-#include <algorithm>
-#include <cstring>
-#include <vector>
 
 namespace {
-
-// Tiles are written to files and textures straight from memory, so the byte
-// order is what the formats depend on.
-TEST(ColorValue, BytesInMemoryAreBlueGreenRedAlpha) {
-    const Color c(10, 20, 30, 40);
-    unsigned char bytes[4];
-    std::memcpy(bytes, &c, 4);
-    EXPECT_EQ(bytes[0], 30);
-    EXPECT_EQ(bytes[1], 20);
-    EXPECT_EQ(bytes[2], 10);
-    EXPECT_EQ(bytes[3], 40);
-    EXPECT_EQ(Color::from_word(c.word()), c);
-    EXPECT_EQ(Color(1, 2, 3).alpha, 255);
-    EXPECT_FALSE(Color(0, 0, 0, 0) == Color(0, 0, 0, 255));
-}
 
 TEST(BoundedValue, ClampsOnEveryChangeAndTruncatesTowardsZero) {
     Bounded_Value v(0.5, 0, 1);
@@ -61,18 +43,6 @@ TEST(ChannelOperations, SaturateInsteadOfWrappingAndKeepAlpha) {
     EXPECT_EQ(black, Color(29, 58, 14, 9));
     compensated_darken(black, 100);
     EXPECT_EQ(black, Color(0, 0, 0, 9));
-}
-
-TEST(Luminance, SortsBrightestFirstIgnoringAlpha) {
-    EXPECT_NEAR(luminance(Color(255, 255, 255)), 1.0, 1e-12);
-    EXPECT_EQ(luminance(Color(10, 90, 200, 0)), luminance(Color(10, 90, 200, 255)));
-    // Dark channels sit on the curve's linear segment, which must stay
-    // ordered with the brighter ones.
-    EXPECT_LT(luminance(Color(0, 10, 0)), luminance(Color(0, 11, 0)));
-    std::vector<Color> colors{Color(0, 0, 255), Color(255, 255, 255), Color(0, 0, 0), Color(0, 255, 0)};
-    std::sort(colors.begin(), colors.end(), compare_by_luminance);
-    EXPECT_EQ(colors, (std::vector<Color>{Color(255, 255, 255), Color(0, 255, 0), Color(0, 0, 255), Color(0, 0, 0)}));
-    EXPECT_FALSE(compare_by_luminance(Color(9, 9, 9), Color(9, 9, 9)));
 }
 
 }  // namespace

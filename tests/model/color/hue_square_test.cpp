@@ -4,7 +4,6 @@
 
 #include "model/color/channel_handles.h"
 #include "model/color/hue_square.h"
-#include "model/color/variations.h"
 
 using namespace hue_square;
 
@@ -33,16 +32,4 @@ TEST(ChannelHandles, SmallStepsClampAndFractionsFollowTheTrack) {
     h.set(Color(10, 20, 30, 7));
     const Color c = h.step(Channel_Handles::lightness, Channel_Handles::track_length);
     EXPECT_EQ(c, Color(255, 255, 255, 7));
-}
-
-TEST(Variations, RowsDarkenSaturateAndLighten) {
-    Color cells[40];
-    build_variations(Color(200, 100, 50), Color(200, 100, 50), cells, 10, 4);
-    EXPECT_EQ(cells[0].red, 180);     // one step of 20 darker at once
-    EXPECT_EQ(cells[9], Color(0, 0, 0));
-    EXPECT_LT(cells[10].red, 200);
-    // Lightness rises by 0.05 a cell: ten cells end close to white.
-    EXPECT_GT(cells[20].red, 200);
-    EXPECT_GE(cells[29].blue, 250);
-    EXPECT_GT(cells[29].green, cells[20].green);
 }

@@ -127,31 +127,18 @@ TEST(PaletteReading, DamagedCountsFallBackToTheBuiltInPagesAndLeaveTheFile) {
     EXPECT_TRUE(palette.damage_report().empty());
 }
 
-class PaletteDeathTest : public ::testing::Test {
-protected:
+TEST(PaletteDeathTest, ALengthBeyondOrShortOfTheFileEndsWithTheBlockError) {
     Scratch_Dir dir;
-};
-
-TEST_F(PaletteDeathTest, LengthBeyondTheFileEndsWithTheBlockError) {
     const std::string path = dir.file("palette.dat");
-    write_bytes(path, {0x00, 0x00, 0x00, 0x40, '3', ':'});
-    EXPECT_EXIT(
-        {
-            send_stdout_to_stderr();
-            Palette palette(path);
-        },
-        ::testing::ExitedWithCode(1), "Error: Unable to load block from  .*palette\\.dat!");
-}
-
-TEST_F(PaletteDeathTest, FileShorterThanItsLengthEndsWithTheBlockError) {
-    const std::string path = dir.file("palette.dat");
-    write_bytes(path, {0x01});
-    EXPECT_EXIT(
-        {
-            send_stdout_to_stderr();
-            Palette palette(path);
-        },
-        ::testing::ExitedWithCode(1), "Unable to load block from  .*palette\\.dat!");
+    for (const std::vector<unsigned char>& bytes : {std::vector<unsigned char>{0, 0, 0, 0x40, '3', ':'}, {0x01}}) {
+        write_bytes(path, bytes);
+        EXPECT_EXIT(
+            {
+                send_stdout_to_stderr();
+                Palette palette(path);
+            },
+            ::testing::ExitedWithCode(1), "Error: Unable to load block from  .*palette\\.dat!");
+    }
 }
 
 }  // namespace

@@ -7,22 +7,16 @@
 
 using namespace adjust;
 
-TEST(Adjust, LightenDarkenAndInvertOnePixel) {
+TEST(Adjust, EachOperationOnAPixelAndOnAWholeTileKeepsAlpha) {
     EXPECT_EQ(operation(adjust::lighten, Color(0, 100, 250, 7), 10), Color(10, 110, 255, 7));
     EXPECT_EQ(operation(adjust::darken, Color(5, 100, 250, 7), 10), Color(0, 90, 240, 7));
     EXPECT_EQ(operation(adjust::compensated_lighten, Color(0, 0, 0), 100), Color(29, 58, 14));
     EXPECT_EQ(operation(invert, Color(10, 20, 30), 0), Color(245, 235, 225));
     EXPECT_EQ(operation(invert, Color(10, 20, 30), 255), Color(10, 20, 30));
-}
-
-TEST(Adjust, HueSaturationAndValueKeepAlpha) {
     EXPECT_EQ(operation(hue, Color(255, 0, 0, 9), 120), Color(0, 255, 0, 9));
     EXPECT_EQ(operation(hue, Color(255, 0, 0), -120), Color(0, 0, 255));
     EXPECT_EQ(operation(saturation, Color(255, 0, 0), -100), Color(255, 255, 255));
     EXPECT_EQ(operation(value, Color(100, 0, 0), 100), Color(200, 0, 0));
-}
-
-TEST(Adjust, ApplyToTileChangesEveryPixel) {
     Tile t(3, 2);
     t.fill(Color(10, 10, 10, 50));
     apply_to_tile(t, adjust::lighten, 5);

@@ -29,26 +29,19 @@ struct Image : Tile {
 };
 }  // namespace
 
-TEST(Brush_Stamp, TheHotspotIsTheMiddleRoundingUpAndLeft) {
+// The hotspot is the middle, rounding up and left; transparent pixels stay out.
+TEST(Brush_Stamp, StampsItsOwnColoursAroundItsHotspotAndLeavesTransparentPixelsOut) {
     const Image t;
     const Brush_Stamp s(t, Brush_Stamp::mode_brush);
     EXPECT_EQ(s.hot_x(), 1);
     EXPECT_EQ(s.hot_y(), 0);
-    const Tile four(4, 4);
-    EXPECT_EQ(Brush_Stamp(four, Brush_Stamp::mode_brush).hot_x(), 1);
-}
-
-TEST(Brush_Stamp, StampsItsOwnColoursAndLeavesTransparentPixelsOut) {
+    EXPECT_EQ(Brush_Stamp(Tile(4, 4), Brush_Stamp::mode_brush).hot_x(), 1);
     Canvas c;
     c.tile.fill(blue);
-    const Image t;
-    Brush_Stamp(t, Brush_Stamp::mode_brush).stamp(c.painter, 4, 5);
-    EXPECT_EQ(c.tile.get_pixel(4, 5), red);
-    EXPECT_EQ(c.tile.get_pixel(5, 5), blue);
-    EXPECT_EQ(c.tile.get_pixel(6, 5), blue);
-    EXPECT_EQ(c.tile.get_pixel(4, 6), green);
-    EXPECT_EQ(c.tile.get_pixel(5, 6), blue);
-    EXPECT_EQ(c.tile.get_pixel(6, 6), red);
+    s.stamp(c.painter, 4, 5);
+    const Color expected[2][3] = {{red, blue, blue}, {green, blue, red}};
+    for (int y = 0; y < 2; ++y)
+        for (int x = 0; x < 3; ++x) EXPECT_EQ(c.tile.get_pixel(4 + x, 5 + y), expected[y][x]) << x << "," << y;
 }
 
 TEST(Brush_Stamp, APatternRepeatsFromTheTilesCorner) {

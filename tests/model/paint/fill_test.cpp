@@ -20,88 +20,15 @@ int count_of(const Tile& t, Color c) {
 }
 }  // namespace
 
-TEST(Fill, IgnoresAlphaWhenComparing) {
-    Tile t(6, 6);
-    t.fill(Color(10, 20, 30, 255));
-    for (int x = 0; x < 6; ++x) t.set_pixel(x, 2, Color(10, 20, 30, 0));
-    Painter p;
-    Distance_Grid g;
-    p.fill(g, 0, 0, ink, t, t, false);
-    EXPECT_EQ(count_of(t, ink), 36);
-}
-
-TEST(Fill, RegionsTouchingAtACornerStayApart) {
-    Tile t(4, 4);
-    t.fill(white);
-    // Two black squares meeting only at the corner between (1, 1) and (2, 2).
-    for (int y = 0; y < 2; ++y)
-        for (int x = 0; x < 2; ++x) {
-            t.set_pixel(x, y, Color(0, 0, 0));
-            t.set_pixel(x + 2, y + 2, Color(0, 0, 0));
-        }
-    Painter p;
-    Distance_Grid g;
-    p.fill(g, 0, 0, ink, t, t, false);
-    EXPECT_EQ(count_of(t, ink), 4);
-    EXPECT_EQ(t.get_pixel(2, 2), Color(0, 0, 0));
-    EXPECT_EQ(g.get(1, 1), 3);  // the wave's level: seed 1, then 2, then 3
-    EXPECT_EQ(g.get(2, 2), Distance_Grid::open);  // the same colour, never reached
-    EXPECT_EQ(g.get(2, 1), Distance_Grid::wall);
-}
-
-TEST(Fill, StartedOutsideTheSelectionStillPaintsItsSeed) {
-    Tile t(5, 5);
-    t.fill(white);
-    Tile mask(5, 5);
-    mask.fill(Color(0, 0, 0));
-    mask.set_pixel(4, 4, white);
-    Painter p;
-    p.set_target(&t);
-    p.set_mask(&mask);
-    p.set_clip(true);
-    Distance_Grid g;
-    p.fill(g, 0, 0, ink, t, t, false);
-    EXPECT_EQ(t.get_pixel(0, 0), ink);
-    EXPECT_EQ(count_of(t, ink), 1);
-    // The painter's own settings are back after the fill.
-    EXPECT_TRUE(p.clipping());
-    EXPECT_EQ(p.target_tile(), &t);
-}
-
-TEST(Fill, StaysInsideTheSelection) {
-    Tile t(5, 5);
-    t.fill(white);
-    Tile mask(5, 5);
-    mask.fill(Color(0, 0, 0));
-    for (int x = 0; x < 3; ++x) mask.set_pixel(x, 0, white);
-    Painter p;
-    p.set_mask(&mask);
-    p.set_clip(true);
-    Distance_Grid g;
-    p.fill(g, 1, 0, ink, t, t, false);
-    EXPECT_EQ(count_of(t, ink), 3);
-}
-
-TEST(Fill, WandPaintsTheDestinationIgnoringTheSelection) {
-    Tile t(4, 4);
-    t.fill(Color(9, 9, 9));
-    Tile mask(4, 4);
-    mask.fill(Color(0, 0, 0));
-    Painter p;
-    p.set_mask(&mask);
-    p.set_clip(true);
-    Distance_Grid g;
-    p.fill(g, 2, 2, white, t, mask, true);
-    EXPECT_EQ(count_of(mask, white), 16);
-    EXPECT_EQ(count_of(t, Color(9, 9, 9)), 16);
-}
-
-TEST(Fill, MatchesAPlainFourConnectedSearch) {
+// The area is found as a plain four-connected search finds it, comparing
+// colours without their alpha.
+TEST(Fill, MatchesAPlainFourConnectedSearchIgnoringAlpha) {
     const int n = 24;
     Tile t(n, n);
     std::mt19937 random(7);
     for (int y = 0; y < n; ++y)
-        for (int x = 0; x < n; ++x) t.set_pixel(x, y, random() % 3 ? white : Color(0, 0, 0));
+        for (int x = 0; x < n; ++x)
+            t.set_pixel(x, y, random() % 3 ? Color(255, 255, 255, uint8_t(random())) : Color(0, 0, 0));
     t.set_pixel(5, 5, white);
     // The expected area, found by a depth-first search of its own.
     std::vector<int> seen(n * n, 0);
@@ -114,7 +41,7 @@ TEST(Fill, MatchesAPlainFourConnectedSearch) {
         for (int k = 0; k < 4; ++k) {
             const int nx = x + dx[k], ny = y + dy[k];
             if (nx < 0 || ny < 0 || nx >= n || ny >= n || seen[ny * n + nx]) continue;
-            if (!(t.get_pixel(nx, ny) == white)) continue;
+            if (t.get_pixel(nx, ny).red != 255) continue;
             seen[ny * n + nx] = 1;
             stack.push_back({nx, ny});
         }
@@ -124,4 +51,32 @@ TEST(Fill, MatchesAPlainFourConnectedSearch) {
     p.fill(g, 5, 5, ink, t, t, false);
     for (int y = 0; y < n; ++y)
         for (int x = 0; x < n; ++x) EXPECT_EQ(t.get_pixel(x, y) == ink, seen[y * n + x] == 1) << x << "," << y;
+}
+
+// The selection bounds the area, but a fill started outside it still paints
+// its seed; the wand paints the mask whatever is selected.
+TEST(Fill, StaysInTheSelectionYetPaintsItsSeedAndTheWandIgnoresIt) {
+    Tile t(5, 5);
+    t.fill(white);
+    Tile mask(5, 5);
+    mask.fill(Color(0, 0, 0));
+    for (int x = 0; x < 3; ++x) mask.set_pixel(x, 0, white);
+    Painter p;
+    p.set_target(&t);
+    p.set_mask(&mask);
+    p.set_clip(true);
+    Distance_Grid g;
+    p.fill(g, 1, 0, ink, t, t, false);
+    EXPECT_EQ(count_of(t, ink), 3);
+    p.fill(g, 4, 4, ink, t, t, false);
+    EXPECT_EQ(t.get_pixel(4, 4), ink);
+    EXPECT_EQ(count_of(t, ink), 4);
+    // The painter's own settings are back after the fill.
+    EXPECT_TRUE(p.clipping());
+    EXPECT_EQ(p.target_tile(), &t);
+
+    mask.fill(Color(0, 0, 0));
+    p.fill(g, 2, 2, white, t, mask, true);
+    EXPECT_EQ(count_of(mask, white), 25 - 4);
+    EXPECT_EQ(count_of(t, white), 25 - 4);
 }

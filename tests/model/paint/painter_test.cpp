@@ -32,24 +32,20 @@ struct Canvas {
 };
 }  // namespace
 
-TEST(Line, ShallowLineRoundsHalvesAwayFromZero) {
+// Halves round away from zero, both ends are drawn whichever comes first, and
+// what lies outside the tile is clipped silently.
+TEST(Line, RoundsHalvesAwayFromZeroCoversBothEndsAndClipsSilently) {
     Canvas c;
     c.painter.line(0, 0, 3, 1, ink);
-    EXPECT_EQ(painted(c.tile), (Points{{0, 0}, {1, 0}, {2, 1}, {3, 1}}));
-}
-
-TEST(Line, BackwardLineCoversBothEnds) {
-    Canvas c;
-    c.painter.line(3, 1, 0, 0, ink);
-    const Points p = painted(c.tile);
-    EXPECT_EQ(p.size(), 4u);
-    EXPECT_TRUE(p.count({3, 1}) && p.count({0, 0}));
-}
-
-TEST(Line, PartlyOutsideTheTileIsClippedSilently) {
-    Canvas c(4);
-    c.painter.line(-3, 1, 6, 1, ink);
-    EXPECT_EQ(painted(c.tile), (Points{{0, 1}, {1, 1}, {2, 1}, {3, 1}}));
+    const Points shallow{{0, 0}, {1, 0}, {2, 1}, {3, 1}};
+    EXPECT_EQ(painted(c.tile), shallow);
+    Canvas back;
+    back.painter.line(3, 1, 0, 0, ink);
+    EXPECT_EQ(painted(back.tile).size(), 4u);
+    EXPECT_TRUE(painted(back.tile).count({3, 1}) && painted(back.tile).count({0, 0}));
+    Canvas small(4);
+    small.painter.line(-3, 1, 6, 1, ink);
+    EXPECT_EQ(painted(small.tile), (Points{{0, 1}, {1, 1}, {2, 1}, {3, 1}}));
 }
 
 TEST(Painter, ClipsToTheSelectionMask) {
@@ -67,27 +63,17 @@ TEST(Painter, ClipsToTheSelectionMask) {
     EXPECT_EQ(c.tile.get_pixel(7, 7), ink);
 }
 
-TEST(Rectangle, OutlineHasFourSidesAndAHollowMiddle) {
+TEST(Rectangle, OutlineHasFourSidesAndFilledUsesTheInsideColourWithin) {
     Canvas c;
     c.painter.rectangle_outline(5, 4, 1, 1, ink);
     const Points p = painted(c.tile);
     EXPECT_EQ(p.size(), 14u);  // 5 x 4 border
     EXPECT_TRUE(p.count({1, 1}) && p.count({5, 4}) && p.count({1, 4}) && p.count({5, 1}));
-    EXPECT_FALSE(p.count({3, 2}));
-}
-
-TEST(Rectangle, FilledAndOutlinedUsesTheInsideColourWithin) {
-    Canvas c;
+    Canvas f;
     const Color inside(1, 2, 3);
-    c.painter.rectangle_filled(4, 4, 1, 1, ink, inside);
-    EXPECT_EQ(painted(c.tile, inside), (Points{{2, 2}, {3, 2}, {2, 3}, {3, 3}}));
-    EXPECT_EQ(painted(c.tile).size(), 12u);
-}
-
-TEST(Ellipse, ZeroWidthIsAVerticalLine) {
-    Canvas c;
-    c.painter.ellipse_outline(8, 8, 0, 3, ink);
-    EXPECT_EQ(painted(c.tile), (Points{{8, 5}, {8, 6}, {8, 7}, {8, 8}, {8, 9}, {8, 10}, {8, 11}}));
+    f.painter.rectangle_filled(4, 4, 1, 1, ink, inside);
+    EXPECT_EQ(painted(f.tile, inside), (Points{{2, 2}, {3, 2}, {2, 3}, {3, 3}}));
+    EXPECT_EQ(painted(f.tile).size(), 12u);
 }
 
 TEST(Ellipse, OutlineIsSymmetricAndReachesItsRadii) {
@@ -100,6 +86,9 @@ TEST(Ellipse, OutlineIsSymmetricAndReachesItsRadii) {
     }
     EXPECT_TRUE(p.count({3, 8}) && p.count({13, 8}) && p.count({8, 5}) && p.count({8, 11}));
     EXPECT_FALSE(p.count({8, 8}));
+    Canvas line;
+    line.painter.ellipse_outline(8, 8, 0, 3, ink);  // no width: a vertical line
+    EXPECT_EQ(painted(line.tile), (Points{{8, 5}, {8, 6}, {8, 7}, {8, 8}, {8, 9}, {8, 10}, {8, 11}}));
 }
 
 TEST(Ellipse, FilledHasNoHolesAndKeepsTheOutline) {

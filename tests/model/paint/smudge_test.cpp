@@ -19,16 +19,13 @@ struct Canvas {
 };
 }  // namespace
 
-TEST(Smudge, HalfAndHalfAveragesOpaqueColours) {
+// Opaque colours average; transparency thins a colour out without darkening
+// it; two clear pixels mix plainly, halves rounding up.
+TEST(Smudge, MixAveragesAndTransparencyThinsAColourOutWithoutDarkeningIt) {
     EXPECT_EQ(Smudge::mix(Color(200, 100, 0), Color(0, 50, 255), 128), Color(100, 75, 128));
     EXPECT_EQ(Smudge::mix(red, black, 256), red);
     EXPECT_EQ(Smudge::mix(red, black, 0), black);
-}
-
-TEST(Smudge, TransparencyThinsAColourOutWithoutDarkeningIt) {
-    const Color c = Smudge::mix(red, Color(0, 0, 0, 0), 128);
-    EXPECT_EQ(c, Color(200, 0, 0, 128));
-    // Two clear pixels mix plainly, halves rounding up.
+    EXPECT_EQ(Smudge::mix(red, Color(0, 0, 0, 0), 128), Color(200, 0, 0, 128));
     EXPECT_EQ(Smudge::mix(Color(0, 0, 0, 0), Color(11, 21, 31, 0), 128), Color(6, 11, 16, 0));
 }
 

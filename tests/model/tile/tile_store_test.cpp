@@ -4,7 +4,6 @@
 
 #include <vector>
 
-#include "support/fake_tile_texture.h"
 
 namespace {
 
@@ -25,7 +24,6 @@ std::vector<int> marks(const Tile_Store& store) {
 int current_mark(Tile_Store& store) { return store.current_tile()->get_pixel(0, 0).red; }
 
 TEST(TileStore, AddInsertAndInsertCopyPlaceTilesAndAFullStoreRefusesThem) {
-    Fake_Texture_Scope textures;
     Tile_Store store(4, 4, 256);
     add_marked(store, 3);
     EXPECT_EQ(store.current_index(), 2);
@@ -46,10 +44,9 @@ TEST(TileStore, AddInsertAndInsertCopyPlaceTilesAndAFullStoreRefusesThem) {
 
     Tile small(2, 2);
     small.fill(Color(0, 0, 0, 0));
-    ASSERT_TRUE(store.insert_copy(small));  // resampled to the store's size, opaque, shown
+    ASSERT_TRUE(store.insert_copy(small));  // resampled to the store's size, opaque
     EXPECT_EQ(store.current_tile()->width(), 4);
     EXPECT_EQ(store.current_tile()->get_pixel(3, 3).alpha, 255);
-    EXPECT_TRUE(texture_is_current(*store.current_tile()));
 
     Tile_Store full(6, 6, 256);
     for (int i = 0; i < 256; ++i) ASSERT_TRUE(full.add_tile());
@@ -62,7 +59,6 @@ TEST(TileStore, AddInsertAndInsertCopyPlaceTilesAndAFullStoreRefusesThem) {
 }
 
 TEST(TileStore, MovingStopsAtTheEndsAndDeletingKeepsAPlace) {
-    Fake_Texture_Scope textures;
     Tile_Store empty(4, 4, 256);
     EXPECT_FALSE(empty.next());
     EXPECT_FALSE(empty.delete_tile());
@@ -93,34 +89,6 @@ TEST(TileStore, MovingStopsAtTheEndsAndDeletingKeepsAPlace) {
     EXPECT_FALSE(one.delete_tile());  // the only tile is cleared, not removed
     ASSERT_EQ(one.tile_count(), 1);
     for (int i = 0; i < 16; ++i) EXPECT_EQ(one.tile_at(0)->pixels()[i], Color(0, 0, 0, 0));
-}
-
-TEST(TileStore, SwapExchangesTwoTilesAndKeepsTheCurrentPlace) {
-    Tile_Store store(4, 4, 256);
-    add_marked(store, 4);
-    store.go_to(1);
-    EXPECT_TRUE(store.swap_tiles(1, 3));
-    EXPECT_EQ(marks(store), (std::vector<int>{1, 4, 3, 2}));
-    EXPECT_EQ(current_mark(store), 4);
-    EXPECT_FALSE(store.swap_tiles(2, 2));
-    EXPECT_FALSE(store.swap_tiles(0, 4));
-    EXPECT_FALSE(store.swap_tiles(-1, 0));
-    EXPECT_EQ(marks(store), (std::vector<int>{1, 4, 3, 2}));
-}
-
-TEST(TileStore, ResizeReplacesEveryTileWithAnOpaqueOneAndRewinds) {
-    Fake_Texture_Scope textures;
-    Tile_Store store(24, 24, 256);
-    add_marked(store, 3);
-    for (const auto& tile : store.all()) tile->fill(Color(0, 0, 0, 0));
-    store.resize(48, 48);
-    EXPECT_EQ(store.current_index(), 0);
-    EXPECT_EQ(store.total_bytes(), 3u * 48 * 48 * 4);
-    for (const auto& tile : store.all()) {
-        EXPECT_EQ(tile->width(), 48);
-        EXPECT_TRUE(texture_is_current(*tile));
-        for (int i = 0; i < tile->pixel_count(); ++i) EXPECT_EQ(tile->pixels()[i].alpha, 255);
-    }
 }
 
 }  // namespace

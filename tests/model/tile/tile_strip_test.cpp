@@ -39,17 +39,6 @@ TEST_F(Strip, PagesKeepFiveTilesOfOverlapAndNeverShowOnlyEmptyCells) {
     EXPECT_FALSE(strip.can_page_back());
 }
 
-TEST_F(Strip, CellsMapToTilesUpToTheLastOneOnly) {
-    fill(10);
-    EXPECT_EQ(strip.tile_at(4, 636), 0);
-    EXPECT_EQ(strip.tile_at(4 + 23, 659), 0);
-    EXPECT_EQ(strip.tile_at(4 + 24, 640), 1);
-    EXPECT_EQ(strip.tile_at(4 + 10 * 24 + 1, 648), -1);
-    EXPECT_EQ(strip.tile_at(3, 648), -1);
-    EXPECT_EQ(strip.tile_at(10, 660), -1);
-    EXPECT_EQ(strip.tile_at(4 + 51 * 24, 648), -1);
-}
-
 TEST_F(Strip, TheCurrentTileIsScrolledIntoTheNearestEnd) {
     fill(120);
     store.go_to(100);

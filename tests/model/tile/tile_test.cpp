@@ -6,7 +6,6 @@
 #include <random>
 #include <utility>
 
-#include "support/fake_tile_texture.h"
 
 namespace {
 
@@ -25,30 +24,6 @@ TEST(TilePixelAccess, OutsideReadsTransparentBlackAndIgnoresWrites) {
     }
     for (int i = 0; i < tile.pixel_count(); ++i) EXPECT_EQ(tile.pixels()[i], Color(9, 9, 9));
     EXPECT_FALSE(tile.is_outside(5, 3));
-}
-
-TEST(TileTexture, WritesAndFillLeaveTheTextureUntilUpdated) {
-    Fake_Texture_Scope textures;
-    Tile tile(3, 3);
-    tile.set_pixel(1, 1, Color(200, 0, 0));
-    tile.fill(Color(0, 200, 0));
-    EXPECT_EQ(Fake_Texture_Scope::of(tile).updates, 0);
-    EXPECT_FALSE(texture_is_current(tile));
-    tile.update_texture();
-    EXPECT_TRUE(texture_is_current(tile));
-    tile.draw(12, 34);
-    EXPECT_EQ(Fake_Texture_Scope::of(tile).last_x, 12);
-    EXPECT_EQ(Fake_Texture_Scope::of(tile).last_y, 34);
-}
-
-TEST(TileCopy, ResamplingWritesOpaquePixelsEvenFromTransparentOnes) {
-    Tile tile(24, 24), up(48, 48), back(24, 24);
-    tile.fill(transparent_black);
-    tile.set_pixel(3, 3, Color(10, 20, 30, 40));
-    tile.copy_into(up);
-    up.copy_into(back);
-    for (int i = 0; i < up.pixel_count(); ++i) EXPECT_EQ(up.pixels()[i].alpha, 255);
-    for (int i = 0; i < back.pixel_count(); ++i) EXPECT_EQ(back.pixels()[i].alpha, 255);
 }
 
 // Resampling blends neighbouring source pixels: every channel of the result

