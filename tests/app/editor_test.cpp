@@ -1,21 +1,14 @@
 // The main editor driven through its real event routing and modal loops.
-#include "app/editor.h"
 
 #include <gtest/gtest.h>
 
-#include "app/canvas_view.h"
 #include "model/core/commands.h"
-#include "app/file_dialog.h"
-#include "platform/globals.h"
 #include "platform/main_window.h"
 #include "app/prompt_dialogs.h"
-#include "app/stroke_action.h"
 #include "app/tileset_tabs.h"
 #include "app/tool_bar.h"
 #include "support/editor_fixture.h"
-#include "ui/event_script.h"
 #include "ui/dialog.h"
-#include "ui/menu_bar.h"
 
 namespace {
 // Answers file dialogs with a fixed path and records what was asked.
@@ -31,23 +24,6 @@ struct Scripted_Chooser {
             chosen = path;
             return result;
         });
-    }
-};
-
-// Counts what the stroke loop asks of an action.
-struct Recording_Action : Stroke_Action {
-    int applies = 0;
-    Cell last_to{};
-    Cell finish_end{};
-    bool finished_dragged = false;
-    void apply(Canvas_View& view, Cell, Cell to, int) override {
-        ++applies;
-        last_to = to;
-        view.tile()->set_pixel(to.x, to.y, Color(255, 0, 0));
-    }
-    void finish(Canvas_View&, Cell, Cell end, int, bool dragged) override {
-        finish_end = end;
-        finished_dragged = dragged;
     }
 };
 }  // namespace
@@ -97,34 +73,6 @@ TEST_F(EditorTest, EscapeOrTheWindowsCloseRequestThenYesQuitsAndCancelKeepsRunni
     push_key(SDLK_ESCAPE);
     pump();
     EXPECT_TRUE(g_editor->quit_requested());
-}
-
-TEST_F(EditorTest, MiddleButtonDoesNothingAndTheStrokeLoopRunsUntilRelease) {
-    Recording_Action action;
-    g_editor->set_stroke(command_pen, &action);
-    const SDL_Point a = cell_centre(2, 3);
-    const SDL_Point b = cell_centre(5, 3);
-    push_button(a.x, a.y, true, SDL_BUTTON_MIDDLE);
-    pump();
-    EXPECT_EQ(action.applies, 0);
-
-    Event_Script script;
-    script.then([&] { push_motion(b.x, b.y, SDL_BUTTON_LMASK); }).then([&] { push_button(b.x, b.y, false); });
-    push_button(a.x, a.y, true);
-    pump();
-    EXPECT_EQ(action.applies, 2);  // at the press, then at the move
-    EXPECT_EQ(action.last_to, (Cell{5, 3}));
-    EXPECT_EQ(action.finish_end, (Cell{5, 3}));
-    EXPECT_TRUE(action.finished_dragged);
-    EXPECT_EQ(g_editor->canvas().tile()->get_pixel(2, 3), Color(255, 0, 0));
-    EXPECT_TRUE(g_editor->current()->is_modified());
-    // The tile's texture was refreshed: the painted cell shows on screen
-    // (with the pointer moved off the canvas, so no brush outline covers it).
-    push_motion(10, 600);
-    pump();
-    g_editor->repaint(false);
-    EXPECT_EQ(read_pixel(a.x, a.y), Color(255, 0, 0));
-    g_editor->set_stroke(command_pen, nullptr);
 }
 
 TEST_F(EditorTest, CtrlRightDragPansAndAQuitDuringThePanOnlyEndsIt) {
@@ -316,31 +264,4 @@ TEST_F(EditorTest, ThePositionReadoutFollowsThePointerOverTheTileOnly) {
     push_motion(1000, 600);
     pump();
     EXPECT_FALSE(readout.visible());
-}
-
-TEST_F(EditorTest, MenusStayOpenOnSeparatorsAndCloseOnKeysOrTheBar) {
-    Menu_Bar& bar = g_editor->menus();
-    const Menu& file = bar.menu(0);
-    const Rectangle separator = file.items[1].area;  // " --- " under " New "
-    int open_after_separator = -2;
-    Event_Script script;
-    script.then([&] { push_click(separator.x + 5, separator.y + 5); })
-        .then([&] {
-            open_after_separator = bar.open_menu();
-            push_key(SDLK_N);  // any key closes and runs nothing
-        });
-    EXPECT_EQ(bar.track(SDL_Point{5, 5}, 0), -1);
-    EXPECT_EQ(open_after_separator, 0);
-    EXPECT_EQ(bar.open_menu(), -1);
-
-    // Sliding onto another title opens that menu; a press on the bar outside
-    // any drop-down closes it without a command.
-    int open_after_slide = -2;
-    const Rectangle help = bar.menu(5).title.area;
-    script.then([&] { push_motion(help.x + 3, 5); }).then([&] {
-        open_after_slide = bar.open_menu();
-        push_click(help.x + 3, 5);
-    });
-    EXPECT_EQ(bar.track(SDL_Point{5, 5}, 0), -1);
-    EXPECT_EQ(open_after_slide, 5);
 }

@@ -7,13 +7,10 @@
 #include <filesystem>
 #include <fstream>
 
-#include "app/editor.h"
-#include "platform/globals.h"
 #include "model/tileset/tileset.h"
 #include "model/tileset/tileset_file.h"
 #include "model/map/map_file.h"
 #include "support/editor_fixture.h"
-#include "tests/ui/event_script.h"
 
 class MapFilesTest : public Editor_Fixture {
 protected:
@@ -27,10 +24,6 @@ protected:
         EXPECT_TRUE(g_editor->tilesets().open_file(path));
         load_map(tileset());
         return tileset();
-    }
-    static std::string text_of(const std::string& path) {
-        std::ifstream in(path, std::ios::binary);
-        return std::string(std::istreambuf_iterator<char>(in), {});
     }
     Temp_Dir dir;
 };
@@ -86,7 +79,7 @@ TEST_F(MapFilesTest, ADamagedMapIsReportedAndReplacedOnlyWhenTheUserAgrees) {
     tileset().map().place(2, 3, 0);
     save(tileset());
     // Cut short by a crash of some other program.
-    const std::string whole = text_of(tmx);
+    const std::string whole = read_text(tmx);
     const std::string damaged = whole.substr(0, whole.size() - 40);
     std::ofstream(tmx, std::ios::binary) << damaged;
 
@@ -99,11 +92,11 @@ TEST_F(MapFilesTest, ADamagedMapIsReportedAndReplacedOnlyWhenTheUserAgrees) {
     loaded.map().place(1, 1, 0);
     script.then([] { push_key(SDLK_ESCAPE); });  // keep the file
     save(loaded, false);
-    EXPECT_EQ(text_of(tmx), damaged);
+    EXPECT_EQ(read_text(tmx), damaged);
     script.then([] { push_key('y'); });  // replace it
     save(loaded);
     EXPECT_FALSE(script.ran_out());
-    EXPECT_NE(text_of(tmx), damaged);
+    EXPECT_NE(read_text(tmx), damaged);
     Map_Editor back(24, 24);
     const Map_File::Reading r = Map_File::read(tmx, back, 24, 24, 1);
     EXPECT_TRUE(r.whole) << r.problems;

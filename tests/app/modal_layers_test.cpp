@@ -10,14 +10,11 @@
 #include <vector>
 
 #include "model/core/commands.h"
-#include "app/editor.h"
-#include "platform/globals.h"
 #include "platform/main_window.h"
 #include "app/prompt_dialogs.h"
 #include "app/tool_bar.h"
 #include "app/tool_options.h"
 #include "support/editor_fixture.h"
-#include "tests/ui/event_script.h"
 #include "ui/backdrop.h"
 #include "ui/dialog.h"
 #include "ui/menu_bar.h"
@@ -154,28 +151,9 @@ TEST_F(ModalLayers, CloseQuestion) { through_menu("Close question", command_clos
 
 TEST_F(ModalLayers, MapEditor) { through_menu("Map editor", command_map_editor); }
 
-TEST_F(ModalLayers, HelpBoxOfAToolButton) {
-    const Rectangle first_tool{0, 32, 24, 24};
-    const SDL_Point p = centre(first_tool);
-    g_main_window->warp(p.x, p.y);
-    ASSERT_EQ(g_editor->tools().command_at(g_main_window->mouse_position().x, g_main_window->mouse_position().y),
-              int(command_pen));
-    expect_drawn_whole("Help box", [] { push_key(SDLK_F1); });
-}
-
 TEST_F(ModalLayers, ColorEditor) { through_menu("Color editor", command_color_editor); }
 
 TEST_F(ModalLayers, EditHsvDialog) {
     const SDL_Point p = centre(g_tool_options->adjust_button());
     expect_drawn_whole("Edit HSV", [p] { push_click(p.x, p.y); });
-}
-
-TEST_F(ModalLayers, ExportPreview) { through_menu("Export preview", command_export); }
-
-TEST_F(ModalLayers, UndoHistoryViewer) { through_menu("Undo history", command_view_undo_history); }
-
-TEST_F(ModalLayers, NumberPromptOverItsDialog) {
-    const Rectangle number = g_prompt_dialogs->new_tileset().find(Prompt_Dialogs::width_id)->area;
-    const SDL_Point p = centre(number);
-    through_menu("Number prompt", command_new, {[p] { push_click(p.x, p.y); }});
 }

@@ -4,10 +4,7 @@
 
 #include <filesystem>
 
-#include "app/canvas_view.h"
 #include "model/core/commands.h"
-#include "app/editor.h"
-#include "app/file_dialog.h"
 #include "app/recovery.h"
 #include "app/tool_options.h"
 #include "model/tileset/tileset.h"
@@ -15,7 +12,6 @@
 #include "model/map/map_file.h"
 #include "app/undo_control.h"
 #include "support/editor_fixture.h"
-#include "ui/event_script.h"
 
 namespace fs = std::filesystem;
 
@@ -39,10 +35,6 @@ int stray_files(const fs::path& dir) {
 
 class NothingLostTest : public Editor_Fixture {
 protected:
-    void TearDown() override {
-        set_file_chooser(nullptr);
-        Headless::TearDown();
-    }
     // Answers every file dialog as SDL reports Escape in some native save
     // dialogs: "chosen", with an empty path.
     static void answer_with_empty_path() {

@@ -2,7 +2,6 @@
 // very next repaint.
 #include <gtest/gtest.h>
 
-#include "app/editor.h"
 #include "app/tool_options.h"
 #include "platform/ui_colors.h"
 #include "features/color/brush_selector.h"

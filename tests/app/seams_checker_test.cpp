@@ -17,15 +17,13 @@
 #include <deque>
 #include <map>
 #include <optional>
+#include <functional>
 #include <random>
 #include <sstream>
 #include <string>
 #include <vector>
 
-#include "app/canvas_view.h"
 #include "model/core/commands.h"
-#include "app/editor.h"
-#include "app/file_dialog.h"
 #include "app/tool_options.h"
 #include "features/viewers/arrange_dialog.h"
 #include "features/color/color_tools.h"
@@ -33,7 +31,6 @@
 #include "model/tileset/tileset_file.h"
 #include "model/map/map_file.h"
 #include "support/editor_fixture.h"
-#include "ui/event_script.h"
 #include "ui/ui_globals.h"
 
 namespace {
@@ -46,21 +43,21 @@ struct Seen {
     bool operator==(const Seen&) const = default;
 };
 
-Seen seen(Tileset& t) {
+// The tiles of a store, the current one replaced by what is shown of it, and a map.
+Seen seen_of(const Tile_Store& store, const Tile* shown, const Tile_Map& map) {
     Seen s;
-    Tile_Store& store = t.store();
-    const bool current = g_editor->current() == &t;
-    std::unique_ptr<Tile> shown = current ? g_editor->canvas().tile_as_shown() : nullptr;
     for (int i = 0; i < store.tile_count(); ++i) {
-        const Tile* tile = store.tile_at(i);
-        if (shown && i == store.current_index()) tile = shown.get();
-        std::vector<uint32_t> pixels;
-        for (int p = 0; p < tile->pixel_count(); ++p) pixels.push_back(tile->pixels()[p].word());
-        s.tiles.push_back(std::move(pixels));
+        const Tile* tile = shown && i == store.current_index() ? shown : store.tile_at(i);
+        s.tiles.emplace_back();
+        for (int p = 0; p < tile->pixel_count(); ++p) s.tiles.back().push_back(tile->pixels()[p].word());
     }
-    const Tile_Map& map = t.map().map();
     for (int c = 0; c < map.cell_count(); ++c) s.cells.push_back(map.at(c));
     return s;
+}
+
+Seen seen(Tileset& t) {
+    const std::unique_ptr<Tile> shown = g_editor->current() == &t ? g_editor->canvas().tile_as_shown() : nullptr;
+    return seen_of(t.store(), shown.get(), t.map().map());
 }
 
 std::string describe(const Seen& a, const Seen& b) {
@@ -84,14 +81,9 @@ struct Track {
     std::optional<Seen> saved;
 };
 
-uint64_t seed_of_run() {
-    const char* text = std::getenv("MOSSWICK_CHECKER_SEED");
-    return text ? std::strtoull(text, nullptr, 10) : 20261123u;
-}
-
-int steps_of_run() {
-    const char* text = std::getenv("MOSSWICK_CHECKER_STEPS");
-    return text ? std::atoi(text) : 3000;
+uint64_t from_environment(const char* name, uint64_t fallback) {
+    const char* text = std::getenv(name);
+    return text ? std::strtoull(text, nullptr, 10) : fallback;
 }
 
 }  // namespace
@@ -116,7 +108,6 @@ protected:
         pump();
         drop_pending_events();
     }
-
 
     void arrange_swap() {
         const int count = current().store().tile_count();
@@ -203,15 +194,9 @@ protected:
         track.saved = before;
         std::unique_ptr<Tile_Store> back = Tileset_File::read(path);
         ASSERT_NE(back, nullptr) << log();
-        Seen read;
-        for (const auto& tile : back->all()) {
-            std::vector<uint32_t> pixels;
-            for (int p = 0; p < tile->pixel_count(); ++p) pixels.push_back(tile->pixels()[p].word());
-            read.tiles.push_back(std::move(pixels));
-        }
         Map_Editor map(back->tile_width(), back->tile_height());
         Map_File::read(Map_File::map_path(path), map, back->tile_width(), back->tile_height(), back->tile_count());
-        for (int c = 0; c < map.map().cell_count(); ++c) read.cells.push_back(map.map().at(c));
+        const Seen read = seen_of(*back, nullptr, map.map());
         ASSERT_TRUE(read == before) << "the saved file: " << describe(read, before) << "\n" << log();
     }
 
@@ -316,7 +301,7 @@ protected:
         return out.str();
     }
 
-    uint64_t seed = seed_of_run();
+    uint64_t seed = from_environment("MOSSWICK_CHECKER_SEED", 20261123u);
     std::mt19937_64 random{seed};
     std::map<Tileset*, Track> tracks;
     std::deque<std::string> recent;
@@ -326,64 +311,67 @@ protected:
 
 TEST_F(Checker, UndoRedoSaveAndLoadGiveBackWhatTheUserSaw) {
     const auto start = std::chrono::steady_clock::now();
-    const int steps = steps_of_run();
-    static const char* const names[] = {"pen dab", "add tile", "insert tile", "delete tile", "next tile",
-                                        "previous tile", "select rectangle", "work drag", "copy", "cut",
-                                        "paste", "clone", "deselect", "selection mode", "map stroke",
-                                        "arrange swap", "tab", "save and load", "undo", "redo", "sweep"};
+    const int steps = int(from_environment("MOSSWICK_CHECKER_STEPS", 3000));
+    Track* track = nullptr;
+    // Everything undone, then everything redone: back where it was.
+    auto sweep = [&] {
+        const Seen before = seen(current());
+        const size_t back_to = track->steps.size() - track->at;  // steps after the floor may go
+        while (track->at > 0 && !HasFatalFailure()) undo(*track);
+        while (track->steps.size() - track->at > back_to && !HasFatalFailure()) redo(*track);
+        ASSERT_TRUE(seen(current()) == before) << "undo all, redo all: " << describe(seen(current()), before) << "\n" << log();
+    };
+    // What changes the document, then undo, redo and the sweep, which follow no new step.
+    const struct {
+        const char* name;
+        int weight;
+        std::function<void()> run;
+    } operations[] = {
+        {"pen dab", 8, [&] { pen_dab(); }},
+        {"add tile", 2, [] { run(command_add_new_tile); }},
+        {"insert tile", 2, [] { run(command_insert_new_tile); }},
+        {"delete tile", 3, [] { run(command_delete_tile); }},
+        {"next tile", 2, [] { run(command_next_tile); }},
+        {"previous tile", 2, [] { run(command_previous_tile); }},
+        {"select rectangle", 5, [&] { select_rectangle(); }},
+        {"work drag", 6, [&] { work_drag(); }},
+        {"copy", 2, [] { run(command_copy); }},
+        {"cut", 2, [] { run(command_cut); }},
+        {"paste", 3, [] { run(command_paste); }},
+        {"clone", 2, [] { run(command_clone); }},
+        {"deselect", 2, [] { run(command_deselect); }},
+        {"selection mode", 1, [&] { g_tool_options->set_selection_mode(pick(3)); }},
+        {"map stroke", 4, [&] { map_stroke(); }},
+        {"arrange swap", 1, [&] { arrange_swap(); }},
+        {"tab", 2, [&] { switch_tab(); }},
+        {"save and load", 1, [&] { save_and_load(*track); }},
+        {"undo", 12, [&] { undo(*track); }},
+        {"redo", 6, [&] { redo(*track); }},
+        {"sweep", 1, sweep},
+    };
+    constexpr int changes = 18, tab = 16;
+    int total = 0;
+    for (const auto& o : operations) total += o.weight;
     int step = 0;
     for (; step < steps; ++step) {
         if (std::chrono::steady_clock::now() - start > std::chrono::seconds(60)) break;
         Tileset& t = current();
-        Track& track = track_of(t);
-        const int weights[] = {8, 2, 2, 3, 2, 2, 5, 6, 2, 2, 3, 2, 2, 1, 4, 1, 2, 1, 12, 6, 1};
-        int total = 0;
-        for (int w : weights) total += w;
+        track = &track_of(t);
         int roll = pick(total);
         int op = 0;
-        while (roll >= weights[op]) roll -= weights[op++];
-        recent.push_back(std::to_string(step) + ": " + names[op] + " on " + t.path().name + ", tile " +
+        while (roll >= operations[op].weight) roll -= operations[op++].weight;
+        recent.push_back(std::to_string(step) + ": " + operations[op].name + " on " + t.path().name + ", tile " +
                          std::to_string(t.store().current_index()) + " of " + std::to_string(t.store().tile_count()) +
                          ", record " + std::to_string(t.history().position()) + " of " +
-                         std::to_string(t.history().count()) + ", step " + std::to_string(track.at) + " of " +
-                         std::to_string(track.steps.size()) +
+                         std::to_string(t.history().count()) + ", step " + std::to_string(track->at) + " of " +
+                         std::to_string(track->steps.size()) +
                          (g_editor->canvas().tile_selection().float_pending() ? ", floating" : ""));
         if (recent.size() > 12) recent.pop_front();
-        const Seen before = op < 18 ? seen(t) : Seen{};
-        switch (op) {
-            case 0: pen_dab(); break;
-            case 1: run(command_add_new_tile); break;
-            case 2: run(command_insert_new_tile); break;
-            case 3: run(command_delete_tile); break;
-            case 4: run(command_next_tile); break;
-            case 5: run(command_previous_tile); break;
-            case 6: select_rectangle(); break;
-            case 7: work_drag(); break;
-            case 8: run(command_copy); break;
-            case 9: run(command_cut); break;
-            case 10: run(command_paste); break;
-            case 11: run(command_clone); break;
-            case 12: run(command_deselect); break;
-            case 13: g_tool_options->set_selection_mode(pick(3)); break;
-            case 14: map_stroke(); break;
-            case 15: arrange_swap(); break;
-            case 16: switch_tab(); break;
-            case 17: save_and_load(track); break;
-            case 18: undo(track); break;
-            case 19: redo(track); break;
-            case 20: {
-                // Everything undone, then everything redone: back where it was.
-                const Seen start = seen(t);
-                const size_t back_to = track.steps.size() - track.at;  // steps after the floor may go
-                while (track.at > 0 && !HasFatalFailure()) undo(track);
-                while (track.steps.size() - track.at > back_to && !HasFatalFailure()) redo(track);
-                ASSERT_TRUE(seen(t) == start) << "undo all, redo all: " << describe(seen(t), start) << "\n" << log();
-                break;
-            }
-        }
+        const Seen before = op < changes ? seen(t) : Seen{};
+        operations[op].run();
         if (HasFatalFailure()) return;
-        if (op < 18) follow(current(), &current() == &t ? before : seen(current()));
-        if (op == 16 && &t != g_editor->current()) follow(t, before);
+        if (op < changes) follow(current(), &current() == &t ? before : seen(current()));
+        if (op == tab && &t != g_editor->current()) follow(t, before);
         if (HasFatalFailure()) return;
         check_modified(track_of(current()));
         if (HasFatalFailure()) return;

@@ -8,10 +8,7 @@
 #include <fstream>
 
 #include "app/application.h"
-#include "app/canvas_view.h"
 #include "model/core/commands.h"
-#include "app/editor.h"
-#include "app/file_dialog.h"
 #include "platform/main_window.h"
 #include "app/map_files.h"
 #include "app/tool_options.h"
@@ -22,7 +19,6 @@
 #include "model/map/map_file.h"
 #include "app/selection/selection_tools.h"
 #include "support/editor_fixture.h"
-#include "ui/event_script.h"
 
 namespace fs = std::filesystem;
 
@@ -36,19 +32,10 @@ std::vector<Color> colours(const Tile_Store& store) {
     for (const auto& tile : store.all()) out.push_back(tile->get_pixel(0, 0));
     return out;
 }
-
-std::string text_of(const fs::path& path) {
-    std::ifstream in(path, std::ios::binary);
-    return std::string(std::istreambuf_iterator<char>(in), {});
-}
 }  // namespace
 
 class SeamsTest : public Editor_Fixture {
 protected:
-    void TearDown() override {
-        set_file_chooser(nullptr);
-        Headless::TearDown();
-    }
     Tileset& tileset() { return *g_editor->current(); }
     Tile_Store& store() { return tileset().store(); }
     // Tiles of the given colours, the first one current.
@@ -208,14 +195,14 @@ TEST_F(SeamsTest, TheMapFileKeepsWhatOtherToolsWroteAndIsNeverLostOrRemoved) {
     t.set_path(wst.string());
     t.set_modified();
     run(command_save);
-    EXPECT_EQ(text_of(tmx), foreign);
+    EXPECT_EQ(read_text(tmx.string()), foreign);
     EXPECT_FALSE(fs::exists(dir.path / "level.1.bmp")) << "the map draws from terrain.tsx, not the sheet";
 
     // A painted cell is written into the tile layer; the rest stays as it was.
     t.map().place(2, 1, 0);
     EXPECT_TRUE(t.is_modified());
     run(command_save);
-    const std::string after = text_of(tmx);
+    const std::string after = read_text(tmx.string());
     EXPECT_NE(after.find(objects), std::string::npos) << after;
     EXPECT_NE(after.find("<imagelayer id=\"4\" name=\"Sky\"><image source=\"sky.png\"/></imagelayer>"),
               std::string::npos);
@@ -226,17 +213,17 @@ TEST_F(SeamsTest, TheMapFileKeepsWhatOtherToolsWroteAndIsNeverLostOrRemoved) {
 
     // Changed by another tool: the question; no keeps the file and the mark.
     std::ofstream(tmx, std::ios::binary | std::ios::app) << "<!-- edited elsewhere -->\n";
-    const std::string edited = text_of(tmx);
+    const std::string edited = read_text(tmx.string());
     t.map().place(3, 1, 0);
     Event_Script script;
     script.then([] { push_key(SDLK_ESCAPE); });
     g_editor->run_command(command_save);
     EXPECT_EQ(script.left(), 0u) << "no question was asked";
-    EXPECT_EQ(text_of(tmx), edited);
+    EXPECT_EQ(read_text(tmx.string()), edited);
     EXPECT_TRUE(t.is_modified()) << "the map is not saved: Quit and Close must warn";
     script.then([] { push_key(SDLK_Y); });
     g_editor->run_command(command_save);
-    EXPECT_NE(text_of(tmx).find("<!-- edited elsewhere -->"), std::string::npos);
+    EXPECT_NE(read_text(tmx.string()).find("<!-- edited elsewhere -->"), std::string::npos);
     EXPECT_FALSE(t.is_modified());
 
     // An emptied map is written empty, never removed; a new size keeps the cells that fit.
@@ -263,7 +250,7 @@ TEST_F(SeamsTest, MapAndSheetAreWrittenSafelyAndNeverThroughALink) {
     fs::create_symlink(elsewhere / "keep.bmp", dir.path / "cave.bmp");
     tileset().map().place(0, 0, 0);
     save_as(wst);
-    EXPECT_EQ(text_of(elsewhere / "keep.bmp"), "the user's picture");
+    EXPECT_EQ(read_text((elsewhere / "keep.bmp").string()), "the user's picture");
     EXPECT_FALSE(fs::exists(dir.path / "cave.tmx"));
     EXPECT_TRUE(tileset().is_modified()) << "the map was not saved";
     fs::remove(dir.path / "cave.bmp");
@@ -271,8 +258,8 @@ TEST_F(SeamsTest, MapAndSheetAreWrittenSafelyAndNeverThroughALink) {
     // Every step of a write failing: the old files stay whole, nothing is left beside them.
     run(command_save);
     ASSERT_FALSE(tileset().is_modified());
-    const std::string map_before = text_of(dir.path / "cave.tmx");
-    const std::string tiles_before = text_of(wst);
+    const std::string map_before = read_text((dir.path / "cave.tmx").string());
+    const std::string tiles_before = read_text(wst.string());
     tileset().map().place(1, 0, 0);
     store().current_tile()->fill(red);
     tileset().set_modified();
@@ -281,8 +268,8 @@ TEST_F(SeamsTest, MapAndSheetAreWrittenSafelyAndNeverThroughALink) {
         safe_file::inject_fault(step);
         run(command_save);
         safe_file::inject_fault(safe_file::Step::none);
-        EXPECT_EQ(text_of(wst), tiles_before);
-        EXPECT_EQ(text_of(dir.path / "cave.tmx"), map_before);
+        EXPECT_EQ(read_text(wst.string()), tiles_before);
+        EXPECT_EQ(read_text((dir.path / "cave.tmx").string()), map_before);
         EXPECT_TRUE(tileset().is_modified());
         int files = 0;
         for ([[maybe_unused]] const auto& entry : fs::directory_iterator(dir.path)) ++files;
@@ -291,14 +278,14 @@ TEST_F(SeamsTest, MapAndSheetAreWrittenSafelyAndNeverThroughALink) {
     // A read-only map file is refused, not replaced: its mode stays.
     chmod((dir.path / "cave.tmx").c_str(), 0444);
     run(command_save);
-    EXPECT_EQ(text_of(dir.path / "cave.tmx"), map_before);
+    EXPECT_EQ(read_text((dir.path / "cave.tmx").string()), map_before);
     EXPECT_TRUE(tileset().is_modified());
     chmod((dir.path / "cave.tmx").c_str(), 0644);
     // Leftovers of killed saves never block the next one.
     for (int i = 0; i < 120; ++i) std::ofstream(dir.path / ("cave.wst.saving" + std::to_string(i))) << "x";
     run(command_save);
     EXPECT_FALSE(tileset().is_modified());
-    EXPECT_NE(text_of(wst), tiles_before);
+    EXPECT_NE(read_text(wst.string()), tiles_before);
 }
 
 TEST_F(SeamsTest, AVeryLongPageNameDoesNotStopTheStart) {

@@ -9,7 +9,6 @@
 #include "platform/ui_colors.h"
 #include "support/headless.h"
 
-
 class MainWindow : public Headless {};
 
 TEST_F(MainWindow, BevelLightsAndShadesByLuminance) {

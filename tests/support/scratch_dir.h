@@ -54,6 +54,11 @@ inline std::vector<unsigned char> read_bytes(const std::string& path) {
     return std::vector<unsigned char>(std::istreambuf_iterator<char>(in), {});
 }
 
+inline std::string read_text(const std::string& path) {
+    std::ifstream in(path, std::ios::binary);
+    return std::string(std::istreambuf_iterator<char>(in), {});
+}
+
 // Fatal errors print to standard output; death tests match standard error.
 // Call first inside the statement of EXPECT_EXIT.
 inline void send_stdout_to_stderr() {

@@ -68,44 +68,30 @@ TEST_F(OptionsTest, AcceptWritesTheWholeDialogAndEditReloads) {
     EXPECT_EQ(again.dialog().value_of(91), 64);
 }
 
+// Integer by integer: length 0 loads nothing, missing integers read 0,
+// surplus ones are ignored and digits convert as far as they are digits.
 TEST_F(OptionsTest, OddFilesLoadIntegerByInteger) {
-    // Length 0: nothing is loaded.
-    write_file(std::string(4, '\0'));
-    {
-        Options o;
-        o.load();
-        EXPECT_EQ(o.get(Options::editor_pixel_size), 10);
-        EXPECT_EQ(o.get(Options::grid_intensity), 64);
-    }
-    // Fewer integers: the missing ones read 0.
-    write_stream("13,3,1,0,2,5:");
-    {
-        Options o;
-        o.load();
-        EXPECT_EQ(o.get(Options::precise_brush), 1);
-        EXPECT_EQ(o.get(Options::blocky_precise_brush), 1);
-        EXPECT_EQ(o.get(Options::show_shadow_brush), 0);
-        EXPECT_EQ(o.get(Options::editor_pixel_size), 3);
-        EXPECT_EQ(o.get(Options::grid_intensity), 0);
-    }
-    // More integers: the surplus is ignored.
-    write_stream(defaults_text().substr(0, defaults_text().size() - 1) + ",9,9,9:");
-    {
-        Options o;
-        o.load();
-        EXPECT_EQ(o.get(Options::grid_intensity), 64);
-        EXPECT_EQ(o.get(Options::clone_style), 0);
-    }
-    // Garbage digits convert as far as they are digits.
-    std::string garbage = defaults_text();
+    const std::string text = defaults_text();
+    std::string garbage = text;
     garbage.replace(garbage.find("64,0,255"), 8, "1x9,ab,25z");
-    write_stream(garbage);
-    {
+    const struct {
+        std::string stream;
+        int pixel_size, grid, precise;
+    } cases[] = {{"", 10, 64, 2},
+                 {"13,3,1,0,2,5:", 3, 0, 1},
+                 {text.substr(0, text.size() - 1) + ",9,9,9:", 10, 64, 2},
+                 {garbage, 10, 1, 2}};
+    for (const auto& c : cases) {
+        if (c.stream.empty())
+            write_file(std::string(4, '\0'));
+        else
+            write_stream(c.stream);
         Options o;
         o.load();
-        EXPECT_EQ(o.get(Options::grid_intensity), 1);
-        EXPECT_EQ(o.dialog().value_of(91), 1);
-        EXPECT_EQ(o.get(Options::repeat_x_tiles), 2);
+        EXPECT_EQ(o.get(Options::editor_pixel_size), c.pixel_size) << c.stream;
+        EXPECT_EQ(o.get(Options::grid_intensity), c.grid) << c.stream;
+        EXPECT_EQ(o.get(Options::precise_brush), c.precise) << c.stream;
+        EXPECT_EQ(o.dialog().value_of(91), c.grid) << c.stream;
     }
 }
 

@@ -2,10 +2,8 @@
 
 #include <cstring>
 
-#include "app/canvas_view.h"
 #include "model/core/commands.h"
 #include "features/color/edit_hsv_dialog.h"
-#include "app/editor.h"
 #include "app/tool_options.h"
 #include "app/undo_control.h"
 #include "model/color/color_database.h"
@@ -13,7 +11,6 @@
 #include "model/color/palette.h"
 #include "model/tileset/tileset.h"
 #include "support/editor_fixture.h"
-#include "tests/ui/event_script.h"
 #include "ui/dialog.h"
 #include "ui/dialog_item.h"
 

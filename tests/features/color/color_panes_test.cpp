@@ -1,14 +1,11 @@
 #include <gtest/gtest.h>
 
-#include "app/canvas_view.h"
 #include "model/core/commands.h"
-#include "app/editor.h"
 #include "app/tool_options.h"
 #include "features/color/color_editor.h"
 #include "features/color/color_tools.h"
 #include "model/color/palette.h"
 #include "support/editor_fixture.h"
-#include "tests/ui/event_script.h"
 
 namespace {
 class ColorPanes : public Editor_Fixture {

@@ -4,11 +4,8 @@
 #include <gtest/gtest.h>
 
 #include "model/core/commands.h"
-#include "app/editor.h"
-#include "platform/globals.h"
 #include "model/tileset/tileset.h"
 #include "support/editor_fixture.h"
-#include "tests/ui/event_script.h"
 #include "ui/backdrop.h"
 
 namespace {

