@@ -79,29 +79,11 @@ TEST_F(EditorTest, CtrlRightDragPansAndAQuitDuringThePanOnlyEndsIt) {
     Canvas_View& c = g_editor->canvas();
     const SDL_Point start = c.origin();
     Event_Script script;
-    script.then([] {
-              SDL_Event m{};
-              m.type = SDL_EVENT_MOUSE_MOTION;
-              m.motion.xrel = 1;
-              SDL_PushEvent(&m);
-          })
-        .then([] {
-            SDL_Event m{};
-            m.type = SDL_EVENT_MOUSE_MOTION;
-            m.motion.xrel = 7;
-            m.motion.yrel = -3;
-            m.motion.x = 407;
-            m.motion.y = 297;
-            SDL_PushEvent(&m);
-        })
-        .then([] { push_quit(); });
-    push_key(SDLK_LCTRL, SDL_KMOD_CTRL);
-    SDL_Event down{};
-    down.type = SDL_EVENT_KEY_DOWN;
-    down.key.key = SDLK_LCTRL;
-    down.key.mod = SDL_KMOD_CTRL;
-    g_editor->handle(down);  // Ctrl held: no key-up yet
-    drop_pending_events();
+    script.then([] { push_motion(0, 0, 0, 1, 0); }).then([] { push_motion(407, 297, 0, 7, -3); }).then([] {
+        push_quit();
+    });
+    push_key_down(SDLK_LCTRL, SDL_KMOD_CTRL);  // held: no key-up yet
+    pump();
     push_button(400, 300, true, SDL_BUTTON_RIGHT);
     pump();
     EXPECT_FALSE(g_editor->quit_requested());

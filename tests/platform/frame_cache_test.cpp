@@ -1,5 +1,4 @@
-// The kept frame must always look exactly like drawing the whole frame afresh,
-// while drawing again only where something changed.
+// The kept frame must always look exactly like drawing the whole frame afresh.
 #include "platform/frame_cache.h"
 
 #include <gtest/gtest.h>
@@ -72,11 +71,6 @@ protected:
         SDL_DestroySurface(fresh);
         SDL_DestroySurface(kept);
     }
-    void frame(const Scene& s) {
-        cache->begin();
-        draw(s, true);
-        cache->finish();
-    }
 
     std::unique_ptr<Frame_Cache> cache;
     std::unique_ptr<Texture> picture;
@@ -103,32 +97,4 @@ TEST_F(FrameCacheTest, TheKeptFrameLooksLikeAFreshOneAfterEveryKindOfChange) {
     expect_same_as_fresh(s, "the texture's pixels changed");
     s.scattered_shift = 1;
     expect_same_as_fresh(s, "forty scattered points moved");
-}
-
-TEST_F(FrameCacheTest, OnlyWhereSomethingChangedIsDrawnAgain) {
-    Scene s;
-    frame(s);
-    ASSERT_EQ(cache->damage_count(), 1);
-    EXPECT_EQ(cache->damage(0), (Rectangle{0, 0, int(g_main_window->width()), int(g_main_window->height())}));
-
-    frame(s);
-    EXPECT_EQ(cache->damage_count(), 0);
-
-    // A renderer that lost its target textures' pixels gets a whole frame.
-    SDL_Event reset{};
-    reset.type = SDL_EVENT_RENDER_TARGETS_RESET;
-    SDL_PushEvent(&reset);
-    frame(s);
-    ASSERT_EQ(cache->damage_count(), 1);
-    EXPECT_EQ(cache->damage(0), (Rectangle{0, 0, int(g_main_window->width()), int(g_main_window->height())}));
-    drop_pending_events();
-
-    // Where the fill was and where it is, nothing else.
-    s.moving = Rectangle{100, 12, 5, 5};
-    frame(s);
-    ASSERT_EQ(cache->damage_count(), 2);
-    const Rectangle a = cache->damage(0);
-    const Rectangle b = cache->damage(1);
-    EXPECT_TRUE((a == Rectangle{10, 10, 5, 5} && b == Rectangle{100, 12, 5, 5}) ||
-                (b == Rectangle{10, 10, 5, 5} && a == Rectangle{100, 12, 5, 5}));
 }

@@ -5,6 +5,7 @@
 #include "app/canvas_view.h"
 #include "app/editor.h"
 #include "app/file_dialog.h"
+#include "model/tileset/tileset.h"
 #include "platform/globals.h"
 #include "support/headless.h"
 #include "ui/event_script.h"
@@ -40,6 +41,15 @@ protected:
         for (int i = 0; i < 4; ++i) script.then([] { push_key(SDLK_ESCAPE); });
         g_editor->run_command(command);
         drop_pending_events();
+    }
+    // A command that is refused must say why in a note and record nothing.
+    static void expect_refused(int command) {
+        const int records = g_editor->current()->history().count();
+        Event_Script script;
+        script.then([] { push_key(SDLK_RETURN); });
+        EXPECT_EQ(g_editor->execute(command), -1) << command;
+        EXPECT_EQ(script.left(), 0u) << command << " showed no note";
+        EXPECT_EQ(g_editor->current()->history().count(), records) << command;
     }
     // Every file dialog from now on answers with this path.
     static void answer_files_with(const std::string& path) {

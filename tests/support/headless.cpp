@@ -39,18 +39,25 @@ namespace {
 SDL_WindowID window_id() { return SDL_GetWindowID(g_main_window->window()); }
 }  // namespace
 
-void Headless::push_key(SDL_Keycode key, SDL_Keymod mod) {
-    for (bool down : {true, false}) {
-        SDL_Event e{};
-        e.type = down ? SDL_EVENT_KEY_DOWN : SDL_EVENT_KEY_UP;
-        e.key.windowID = window_id();
-        e.key.key = key;
-        e.key.scancode = SDL_GetScancodeFromKey(key, nullptr);
-        e.key.mod = mod;
-        e.key.down = down;
-        SDL_PushEvent(&e);
-    }
+namespace {
+void push_key_event(SDL_Keycode key, SDL_Keymod mod, bool down) {
+    SDL_Event e{};
+    e.type = down ? SDL_EVENT_KEY_DOWN : SDL_EVENT_KEY_UP;
+    e.key.windowID = window_id();
+    e.key.key = key;
+    e.key.scancode = SDL_GetScancodeFromKey(key, nullptr);
+    e.key.mod = mod;
+    e.key.down = down;
+    SDL_PushEvent(&e);
 }
+}  // namespace
+
+void Headless::push_key(SDL_Keycode key, SDL_Keymod mod) {
+    push_key_event(key, mod, true);
+    push_key_event(key, mod, false);
+}
+
+void Headless::push_key_down(SDL_Keycode key, SDL_Keymod mod) { push_key_event(key, mod, true); }
 
 void Headless::push_text_key(char c) { push_key(SDL_Keycode(static_cast<unsigned char>(c))); }
 
@@ -71,13 +78,15 @@ void Headless::push_click(int x, int y, Uint8 button) {
     push_button(x, y, false, button);
 }
 
-void Headless::push_motion(int x, int y, Uint32 buttons) {
+void Headless::push_motion(int x, int y, Uint32 buttons, float xrel, float yrel) {
     SDL_Event e{};
     e.type = SDL_EVENT_MOUSE_MOTION;
     e.motion.windowID = window_id();
     e.motion.state = buttons;
     e.motion.x = float(x);
     e.motion.y = float(y);
+    e.motion.xrel = xrel;
+    e.motion.yrel = yrel;
     SDL_PushEvent(&e);
 }
 

@@ -22,10 +22,12 @@ protected:
     // The dummy driver queues window events at creation; tests start clean.
     static void drop_pending_events();
     static void push_key(SDL_Keycode key, SDL_Keymod mod = SDL_KMOD_NONE);
+    // A key pressed and held: no release follows.
+    static void push_key_down(SDL_Keycode key, SDL_Keymod mod);
     static void push_text_key(char c);
     static void push_button(int x, int y, bool down, Uint8 button = SDL_BUTTON_LEFT);
     static void push_click(int x, int y, Uint8 button = SDL_BUTTON_LEFT);
-    static void push_motion(int x, int y, Uint32 buttons = 0);
+    static void push_motion(int x, int y, Uint32 buttons = 0, float xrel = 0, float yrel = 0);
     static void push_quit();
     static void push_close_request();
 

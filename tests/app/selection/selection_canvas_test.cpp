@@ -5,15 +5,12 @@
 
 #include "app/tool_options.h"
 #include "app/undo_control.h"
-#include "model/tileset/tileset.h"
 #include "model/tile/transforms.h"
 #include "features/selection/buffer_pane.h"
 #include "app/selection/selection_tools.h"
 #include "model/selection/mask_ops.h"
 #include "ui/info_panes.h"
 #include "ui/options.h"
-#include "ui/setting_panes.h"
-#include "ui/textlist_dialog_item.h"
 #include "ui/ui_globals.h"
 
 namespace {
@@ -26,24 +23,10 @@ protected:
     static Rectangle selected_box() { return mask_ops::bounds(*view().tile_selection().mask()); }
     static bool selected(int x, int y) { return mask_ops::is_selected(*view().tile_selection().mask(), x, y); }
     static void undo() { key(SDLK_Z, SDL_KMOD_CTRL); }
-    static void redo() { key(SDLK_R, SDL_KMOD_CTRL); }
     static void with_shift(const std::vector<SDL_Point>& cells) {
         SDL_SetModState(SDL_KMOD_SHIFT);
         stroke(cells);
         SDL_SetModState(SDL_KMOD_NONE);
-    }
-    static void set_selection_mode(int mode) {
-        auto& row = static_cast<Option_Pane&>(g_tool_options->row(tool_pages::row_selection_mode));
-        static_cast<Textlist_Dialog_Item*>(row.container().find(setting_pane_first_id + 1))->choice.value = mode;
-    }
-    // A command that is refused must say why in a note and record nothing.
-    static void expect_refused(int command) {
-        const int records = g_editor->current()->history().count();
-        Event_Script script;
-        script.then([] { push_key(SDLK_RETURN); });
-        EXPECT_EQ(g_editor->execute(command), -1) << commands::name(command);
-        EXPECT_EQ(script.left(), 0u) << commands::name(command) << " showed no note";
-        EXPECT_EQ(g_editor->current()->history().count(), records) << commands::name(command);
     }
     static void fill_tile(Color c) {
         tile().fill(c);
@@ -188,14 +171,14 @@ TEST_F(Selecting, WorkSelectionLiftsCopiesClonesAndKeepsByItsMode) {
     EXPECT_TRUE(selected(3, 2));
 
     // "Fixed": the pixels stay and a copy moves. "Persistent": it keeps floating under other tools.
-    set_selection_mode(Selection_Tools::fixed);
+    g_tool_options->set_selection_mode(Selection_Tools::fixed);
     stroke({{3, 2}, {3, 8}});
     EXPECT_EQ(tile().get_pixel(3, 2), red);
-    set_selection_mode(Selection_Tools::persistent);
+    g_tool_options->set_selection_mode(Selection_Tools::persistent);
     use_tool(command_pen);
     EXPECT_NE(view().tile_selection().floating_image(), nullptr);
     EXPECT_EQ(tile().get_pixel(3, 8), blank);
-    set_selection_mode(Selection_Tools::standard);
+    g_tool_options->set_selection_mode(Selection_Tools::standard);
     use_tool(command_work_selection);
     use_tool(command_pen);
     EXPECT_EQ(view().tile_selection().floating_image(), nullptr);

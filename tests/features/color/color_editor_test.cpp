@@ -54,15 +54,7 @@ TEST_F(ColorEditorTest, CtrlLeftClickStoresIntoThePaletteAndCtrlRightDoesNothing
     Color edited_after_right;
     Event_Script script;
     script.then([&] { push_click(s.x, s.y); })
-        .then([&] {
-            // Ctrl goes down and stays held.
-            SDL_Event e{};
-            e.type = SDL_EVENT_KEY_DOWN;
-            e.key.key = SDLK_LCTRL;
-            e.key.mod = SDL_KMOD_CTRL;
-            e.key.down = true;
-            SDL_PushEvent(&e);
-        })
+        .then([&] { push_key_down(SDLK_LCTRL, SDL_KMOD_CTRL); })
         .then([&] { push_click(cell.x, cell.y, SDL_BUTTON_RIGHT); })
         .then([&] {
             edited_after_right = editor().edited_color();

@@ -21,15 +21,3 @@ TEST(HueSquare, CornersAreWhiteTheHueAndBlack) {
         }
     }
 }
-
-TEST(ChannelHandles, SmallStepsClampAndFractionsFollowTheTrack) {
-    Channel_Handles h;
-    h.set(Color(250, 0, 128, 255));
-    EXPECT_EQ(h.step(Channel_Handles::red, 10).red, 255);
-    EXPECT_EQ(h.middle(Channel_Handles::green).green, 128);
-    EXPECT_EQ(h.handle_offset(Channel_Handles::blue), 56);
-    // A lightness step of the full track gives white; alpha stays.
-    h.set(Color(10, 20, 30, 7));
-    const Color c = h.step(Channel_Handles::lightness, Channel_Handles::track_length);
-    EXPECT_EQ(c, Color(255, 255, 255, 7));
-}
