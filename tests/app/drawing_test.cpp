@@ -1,10 +1,15 @@
-// The painting tools driven through the canvas's real stroke loop.
+// The painting tools driven through the canvas's real stroke loop, and undo
+// through the keys with the undo meter.
+#include "app/tool_options.h"
+#include "app/undo_control.h"
+#include "features/viewers/undo_meter.h"
 #include "tests/app/drawing_fixture.h"
 
 namespace {
 const Color red(220, 20, 30);
 const Color blue(10, 40, 230);
 const Color white(255, 255, 255);
+const Color black(0, 0, 0);
 }  // namespace
 
 TEST_F(Drawing, AFastPenStrokeLeavesNoGaps) {
@@ -48,17 +53,6 @@ TEST_F(Drawing, ThePenRightButtonFollowsItsMode) {
     EXPECT_EQ(g_editor->drawing().context().settings.left_color, blue);
     EXPECT_EQ(tile().get_pixel(3, 3), blue);
     g_editor->drawing().context().gather = nullptr;
-}
-
-TEST_F(Drawing, ThePenIsClippedToTheSelection) {
-    use_tool(command_pen);
-    set_colors(red, blue);
-    Canvas_View& view = g_editor->canvas();
-    for (int x = 0; x < 4; ++x) view.tile_selection().mask()->set_pixel(x, 5, white);
-    view.tile_selection().set_active(true);
-    stroke({{0, 5}, {10, 5}});
-    for (int x = 0; x < 4; ++x) EXPECT_EQ(tile().get_pixel(x, 5), red) << x;
-    for (int x = 4; x <= 10; ++x) EXPECT_EQ(tile().get_pixel(x, 5), Color()) << x;
 }
 
 TEST_F(Drawing, ALineShowsOnlyItsLastShapeWhileDragging) {
@@ -123,4 +117,73 @@ TEST_F(Drawing, TheColorizePenKeepsBrightnessAndTakesTheHue) {
     EXPECT_GT(c.red, 150);
     EXPECT_EQ(c.green, 0);
     EXPECT_EQ(c.blue, 0);
+}
+
+TEST_F(Drawing, TheStampCentresTheBrushOnThePointerInItsOwnColours) {
+    use_tool(command_stamp_brush);
+    set_colors(red, blue);
+    g_tool_options->select_brush(1, 3);
+    stroke({{5, 5}});
+    for (int y = 4; y <= 6; ++y)
+        for (int x = 4; x <= 6; ++x) EXPECT_EQ(tile().get_pixel(x, y), white) << x << "," << y;
+    EXPECT_EQ(tile().get_pixel(7, 5), black);
+    EXPECT_EQ(tile().get_pixel(3, 5), black);
+    EXPECT_EQ(on_screen(4, 4), white);
+    EXPECT_TRUE(g_editor->current()->is_modified());
+    // The right button stamps the second colour all along the drag.
+    stroke({{5, 9}, {12, 9}}, SDL_BUTTON_RIGHT);
+    for (int x = 4; x <= 13; ++x) EXPECT_EQ(tile().get_pixel(x, 8), blue) << x;
+    EXPECT_EQ(tile().get_pixel(14, 9), black);
+}
+
+TEST_F(Drawing, UndoOfNextTileReturnsToTheEarlierTile) {
+    use_tool(command_pen);
+    set_colors(red, blue);
+    stroke({{1, 1}});
+    g_editor->run_command(command_add_new_tile);
+    g_editor->run_command(command_previous_tile);
+    g_editor->run_command(command_next_tile);
+    Tile_Store& store = g_editor->current()->store();
+    ASSERT_EQ(store.current_index(), 1);
+    key(SDLK_Z, SDL_KMOD_CTRL);
+    EXPECT_EQ(store.current_index(), 0);
+    EXPECT_EQ(g_editor->canvas().tile(), store.tile_at(0));
+    EXPECT_EQ(on_screen(1, 1), red);
+    key(SDLK_R, SDL_KMOD_CTRL);
+    EXPECT_EQ(store.current_index(), 1);
+}
+
+TEST_F(Drawing, UndoOfAScrollRunsTheOppositeScroll) {
+    use_tool(command_pen);
+    set_colors(red, blue);
+    stroke({{1, 1}});
+    key(SDLK_LEFT);
+    EXPECT_EQ(tile().get_pixel(0, 1), red);
+    ASSERT_EQ(g_editor->current()->history().count(), 3);
+    key(SDLK_Z, SDL_KMOD_CTRL);
+    EXPECT_EQ(tile().get_pixel(1, 1), red);
+    EXPECT_EQ(tile().get_pixel(0, 1), Color());
+}
+
+TEST_F(Drawing, TheMeterShowsOneOrangeBarAtTheCurrentRecord) {
+    use_tool(command_pen);
+    set_colors(red, blue);
+    stroke({{1, 1}});
+    stroke({{2, 2}});
+    key(SDLK_Z, SDL_KMOD_CTRL);
+    g_editor->repaint(false);
+    const Undo_Meter& meter = g_editor->undo().meter();
+    auto bar_colour = [&](int i) {
+        const Rectangle r = meter.bar(i);
+        return read_pixel(r.x + 4, r.y + r.height / 2);
+    };
+    EXPECT_EQ(bar_colour(0), Undo_Meter::record_bar);
+    EXPECT_EQ(bar_colour(1), Undo_Meter::current_bar);
+    EXPECT_EQ(bar_colour(2), Undo_Meter::record_bar);
+    const Color empty = bar_colour(3);
+    EXPECT_FALSE(empty == Undo_Meter::record_bar || empty == Undo_Meter::current_bar);
+    EXPECT_EQ(bar_colour(17), empty);
+    // The meter stays beside the tool bar, inside the left column.
+    EXPECT_GE(meter.outer_area().x, 28);
+    EXPECT_LE(meter.outer_area().x + meter.outer_area().width, 264);
 }

@@ -57,24 +57,6 @@ TEST_F(History, UndoAndRedoRestoreThePixelsAndNameTheStrokesTool) {
     EXPECT_EQ(history.count(), 3);
 }
 
-TEST_F(History, UndoOfNextTileReturnsToTheEarlierTileByItself) {
-    stroke(70);
-    store.add_tile();  // now on tile 1
-    store.go_to(0);
-    ASSERT_TRUE(store.next());
-    EXPECT_FALSE(history.record_if_inverse(command_next_tile, store, &selection));
-    EXPECT_EQ(history.command_to_undo(), command_change_tile);
-    EXPECT_TRUE(history.undo(store, selection));
-    EXPECT_EQ(store.current_index(), 0);
-    EXPECT_EQ(tile().get_pixel(0, 0), Color(70, 70, 70));
-    EXPECT_TRUE(history.redo(store, selection));
-    EXPECT_EQ(store.current_index(), 1);
-    // Only commands with an inverse are recorded this way.
-    EXPECT_FALSE(history.record_if_inverse(command_pen, store, &selection));
-    EXPECT_FALSE(history.record(command_dropper, store, &selection));
-    EXPECT_EQ(history.count(), 3);
-}
-
 TEST_F(History, UndoBringsBackTheSelectionAndTheFloatingImage) {
     // A stroke made while a selection was active keeps the mask.
     selection.mask()->set_pixel(2, 2, Color(255, 255, 255));
