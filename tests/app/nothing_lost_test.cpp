@@ -35,14 +35,6 @@ int stray_files(const fs::path& dir) {
 
 class NothingLostTest : public Editor_Fixture {
 protected:
-    // Answers every file dialog as SDL reports Escape in some native save
-    // dialogs: "chosen", with an empty path.
-    static void answer_with_empty_path() {
-        set_file_chooser([](int, const std::string&, std::string& chosen) {
-            chosen.clear();
-            return int(file_chosen);
-        });
-    }
     // A press and release on the canvas with the current tool.
     static void click_canvas(SDL_Point p) {
         Event_Script script;
@@ -61,7 +53,7 @@ TEST_F(NothingLostTest, AnEmptyAnswerFromAFileDialogIsACancel) {
     EXPECT_EQ(file_dialog_answer(empty), file_cancelled);
     EXPECT_EQ(file_dialog_answer(chosen), file_chosen);
 
-    answer_with_empty_path();
+    answer_files_with("");  // as SDL reports Escape in some native save dialogs
     g_editor->run_command(command_add_new_tile);
     Tileset& t = *g_editor->current();
     ASSERT_TRUE(t.is_modified());
@@ -88,18 +80,13 @@ TEST_F(NothingLostTest, RefusedCommandsRecordNothingAndSayWhy) {
     store.current_tile()->set_pixel(1, 1, Color(9, 9, 9));
     g_editor->canvas().set_tile(store.current_tile());
     const History_State before = history_of(t);
-
-    Event_Script script;
-    for (int i = 0; i < 3; ++i) script.then([] { push_key(SDLK_RETURN); });  // each refusal's note
-    g_editor->run_command(command_add_new_tile);
-    g_editor->run_command(command_insert_new_tile);
+    expect_refused(command_add_new_tile);
+    expect_refused(command_insert_new_tile);
     store.go_to(255);
-    g_editor->run_command(command_next_tile);
-    EXPECT_EQ(script.left(), 0u) << "a refusal showed no note";
+    expect_refused(command_next_tile);
     g_editor->run_command(command_append_tile);  // does nothing, so records nothing
     EXPECT_EQ(history_of(t), before);
     EXPECT_FALSE(t.is_modified());
-
     // Undo has nothing of them to take back: no real tile is lost.
     push_key(SDLK_Z, SDL_KMOD_CTRL);
     pump();
@@ -108,14 +95,8 @@ TEST_F(NothingLostTest, RefusedCommandsRecordNothingAndSayWhy) {
 
     // Rotating a tile that is not square is refused the same way.
     ASSERT_TRUE(g_editor->tilesets().new_tileset(8, 16));
-    Tileset& tall = *g_editor->current();
-    const History_State tall_before = history_of(tall);
-    script.then([] { push_key(SDLK_RETURN); });
-    push_key(SDLK_R);
-    pump();
-    EXPECT_EQ(script.left(), 0u);
-    EXPECT_EQ(history_of(tall), tall_before);
-    EXPECT_FALSE(tall.is_modified());
+    expect_refused(command_rotate);
+    EXPECT_FALSE(g_editor->current()->is_modified());
 }
 
 TEST_F(NothingLostTest, AStrokeThatChangesNothingRecordsNothing) {

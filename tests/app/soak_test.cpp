@@ -97,7 +97,7 @@ private:
         else if (roll < 880) move_to(somewhere(), 1 + int(below(3)));
         else if (roll < 950) wheel();
         else if (roll < 980) pan();
-        else lone(roll < 990 ? SDL_EVENT_WINDOW_CLOSE_REQUESTED : SDL_EVENT_QUIT);
+        else push(roll < 990 ? SDL_EVENT_WINDOW_CLOSE_REQUESTED : SDL_EVENT_QUIT);
     }
     SDL_Point in(const Area& a) {
         return SDL_Point{a.x + int(below(uint32_t(a.width))), a.y + int(below(uint32_t(a.height)))};
@@ -112,14 +112,18 @@ private:
         }
         return SDL_Point{0, 0};
     }
-    void key_event(SDL_Keycode code, SDL_Keymod mod, bool down) {
+    SDL_Event& push(Uint32 type) {
         SDL_Event e{};
-        e.type = down ? SDL_EVENT_KEY_DOWN : SDL_EVENT_KEY_UP;
-        e.key.key = code;
-        e.key.scancode = SDL_GetScancodeFromKey(code, nullptr);
-        e.key.mod = mod;
-        e.key.down = down;
+        e.type = type;
         planned.push_back(e);
+        return planned.back();
+    }
+    void key_event(SDL_Keycode code, SDL_Keymod mod, bool down) {
+        SDL_KeyboardEvent& k = push(down ? SDL_EVENT_KEY_DOWN : SDL_EVENT_KEY_UP).key;
+        k.key = code;
+        k.scancode = SDL_GetScancodeFromKey(code, nullptr);
+        k.mod = mod;
+        k.down = down;
     }
     void key(SDL_Keycode code, SDL_Keymod mod) {
         key_event(code, mod, true);
@@ -148,30 +152,26 @@ private:
         key(answer_keys[below(closing ? 4 : uint32_t(std::size(answer_keys)))], SDL_KMOD_NONE);
     }
     void button(Uint8 which, bool down) {
-        SDL_Event e{};
-        e.type = down ? SDL_EVENT_MOUSE_BUTTON_DOWN : SDL_EVENT_MOUSE_BUTTON_UP;
-        e.button.button = which;
-        e.button.down = down;
-        e.button.clicks = 1;
-        e.button.x = x;
-        e.button.y = y;
+        SDL_MouseButtonEvent& b = push(down ? SDL_EVENT_MOUSE_BUTTON_DOWN : SDL_EVENT_MOUSE_BUTTON_UP).button;
+        b.button = which;
+        b.down = down;
+        b.clicks = 1;
+        b.x = x;
+        b.y = y;
         held = down ? held | SDL_BUTTON_MASK(which) : held & ~SDL_BUTTON_MASK(which);
-        planned.push_back(e);
     }
     // In even steps, each motion carrying its own movement and the buttons held.
     void move_to(SDL_Point to, int steps) {
         const float from_x = x, from_y = y;
         for (int i = 1; i <= steps; ++i) {
-            SDL_Event e{};
-            e.type = SDL_EVENT_MOUSE_MOTION;
-            e.motion.state = held;
-            e.motion.x = float(int(from_x + (float(to.x) - from_x) * float(i) / float(steps)));
-            e.motion.y = float(int(from_y + (float(to.y) - from_y) * float(i) / float(steps)));
-            e.motion.xrel = e.motion.x - x;
-            e.motion.yrel = e.motion.y - y;
-            x = e.motion.x;
-            y = e.motion.y;
-            planned.push_back(e);
+            SDL_MouseMotionEvent& m = push(SDL_EVENT_MOUSE_MOTION).motion;
+            m.state = held;
+            m.x = float(int(from_x + (float(to.x) - from_x) * float(i) / float(steps)));
+            m.y = float(int(from_y + (float(to.y) - from_y) * float(i) / float(steps)));
+            m.xrel = m.x - x;
+            m.yrel = m.y - y;
+            x = m.x;
+            y = m.y;
         }
     }
     void click(SDL_Point at) {
@@ -200,23 +200,16 @@ private:
     }
     void wheel() {
         move_to(somewhere(), 1);
-        SDL_Event e{};
-        e.type = SDL_EVENT_MOUSE_WHEEL;
-        e.wheel.y = below(2) ? 1.0f : -1.0f;
-        e.wheel.mouse_x = x;
-        e.wheel.mouse_y = y;
-        planned.push_back(e);
+        SDL_MouseWheelEvent& w = push(SDL_EVENT_MOUSE_WHEEL).wheel;
+        w.y = below(2) ? 1.0f : -1.0f;
+        w.mouse_x = x;
+        w.mouse_y = y;
     }
     // Ctrl with the right button drags the canvas.
     void pan() {
         key_event(SDLK_LCTRL, SDL_KMOD_LCTRL, true);
         drag(SDL_BUTTON_RIGHT);
         key_event(SDLK_LCTRL, SDL_KMOD_NONE, false);
-    }
-    void lone(Uint32 type) {
-        SDL_Event e{};
-        e.type = type;
-        planned.push_back(e);
     }
 
     uint64_t state;

@@ -63,21 +63,3 @@ TEST_F(NumberPrompt, AnEntryOutsideTheBoundsIsRefusedVisibly) {
     });
     EXPECT_EQ(Number_Prompt::ask(x, y, 64, 0, 255), 3);
 }
-
-TEST_F(NumberPrompt, APressOnANumberItemOpensThePromptInsideTheDialog) {
-    Dialog d("Numbers");
-    d.add_number_row(10, 4, 0, 99, "Value:");
-    d.finish(true);
-    const Rectangle a = d.find(11)->area;
-    Event_Script script;
-    script.then([&] { push_click(a.x + 1, a.y + 2); })
-        .then([] {
-            type("42");
-            push_key(13);
-        })
-        .then([] { push_key(13); });
-    EXPECT_TRUE(d.run());
-    EXPECT_FALSE(script.ran_out());
-    EXPECT_EQ(d.value_of(11), 42);
-    EXPECT_EQ(d.find(11)->area.width, d.find(11)->text_writer()->measure("42"));
-}
