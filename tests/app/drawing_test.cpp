@@ -136,23 +136,6 @@ TEST_F(Drawing, TheStampCentresTheBrushOnThePointerInItsOwnColours) {
     EXPECT_EQ(tile().get_pixel(14, 9), black);
 }
 
-TEST_F(Drawing, UndoOfNextTileReturnsToTheEarlierTile) {
-    use_tool(command_pen);
-    set_colors(red, blue);
-    stroke({{1, 1}});
-    g_editor->run_command(command_add_new_tile);
-    g_editor->run_command(command_previous_tile);
-    g_editor->run_command(command_next_tile);
-    Tile_Store& store = g_editor->current()->store();
-    ASSERT_EQ(store.current_index(), 1);
-    key(SDLK_Z, SDL_KMOD_CTRL);
-    EXPECT_EQ(store.current_index(), 0);
-    EXPECT_EQ(g_editor->canvas().tile(), store.tile_at(0));
-    EXPECT_EQ(on_screen(1, 1), red);
-    key(SDLK_R, SDL_KMOD_CTRL);
-    EXPECT_EQ(store.current_index(), 1);
-}
-
 TEST_F(Drawing, UndoOfAScrollRunsTheOppositeScroll) {
     use_tool(command_pen);
     set_colors(red, blue);

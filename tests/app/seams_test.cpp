@@ -148,20 +148,6 @@ TEST_F(SeamsTest, SaveWritesAFloatingImageWhereItIsSeenAndTabsKeepTheirTiles) {
     EXPECT_TRUE(view.tile_selection().float_pending());
 }
 
-TEST_F(SeamsTest, AnImageLargerThanTheTileIsCutNotScrambled) {
-    ASSERT_TRUE(g_editor->tilesets().new_tileset(8, 8));
-    Tile big(12, 12);
-    for (int y = 0; y < 12; ++y)
-        for (int x = 0; x < 12; ++x) big.set_pixel(x, y, Color(uint8_t(x * 20), uint8_t(y * 20), 7));
-    Canvas_View& view = g_editor->canvas();
-    view.tile_selection().paste(big, -2, -2, view.tile());  // centred: two pixels over every edge
-    run(command_deselect);
-    const Tile& tile = *store().current_tile();
-    for (int y = 0; y < 8; ++y)
-        for (int x = 0; x < 8; ++x)
-            ASSERT_EQ(tile.get_pixel(x, y), big.get_pixel(x + 2, y + 2)) << x << ", " << y;
-}
-
 // A map file written by other map tools keeps everything this editor does
 // not edit; a file changed on disk, or a foreign one, is replaced only after
 // a yes, and while the map is unsaved the tileset stays marked modified.
@@ -286,19 +272,6 @@ TEST_F(SeamsTest, MapAndSheetAreWrittenSafelyAndNeverThroughALink) {
     run(command_save);
     EXPECT_FALSE(tileset().is_modified());
     EXPECT_NE(read_text(wst.string()), tiles_before);
-}
-
-TEST_F(SeamsTest, AVeryLongPageNameDoesNotStopTheStart) {
-    Application::shut_down();
-    std::string text = "1,1,9,9,9,255," + std::string(2400, 'n') + ",:";
-    std::string bytes(4, '\0');
-    for (int i = 0; i < 4; ++i) bytes[size_t(i)] = char(text.size() >> (8 * i));
-    std::ofstream(work_dir / "data" / "palette.dat", std::ios::binary) << bytes + text;
-    Application::start_up();
-    ASSERT_TRUE(g_editor->begin());
-    g_editor->repaint(true);
-    EXPECT_EQ(g_palette->name(0).size(), 2400u);
-    EXPECT_EQ(g_palette->color(0, 0), Color(9, 9, 9));
 }
 
 TEST_F(SeamsTest, TheModifiedMarkFollowsTheHistoryBackToTheSavedState) {

@@ -4,7 +4,6 @@
 // extend a run; a failure names both. The stream depends on the seed alone, so
 // a crash recurs at the same event when the run is repeated.
 #include <gtest/gtest.h>
-#include <sys/stat.h>
 
 #include <algorithm>
 #include <chrono>
@@ -277,49 +276,27 @@ std::string editor_fault() {
 }
 
 // The editor's files go to data/ below the working directory and nowhere
-// else. A directory's modification time moves whenever an entry is added, so
-// a directory is listed again only then.
+// else, and every excursion into data/ comes back.
 class File_Guard {
 public:
-    File_Guard(const fs::path& outer, const fs::path& work) : work_dir(fs::canonical(work)) {
-        const fs::path start = fs::current_path();
-        for (const fs::path& p : {outer, work, start, start.parent_path(), fs::path(MOSSWICK_SOURCE_DIR)})
-            watches.push_back(Watch{p, list(p), modified(p)});
-    }
-    std::string fault() {
+    File_Guard(const fs::path& outer, const fs::path& work)
+        : work_dir(fs::canonical(work)), outer(outer), before(listing()) {}
+    std::string fault() const {
         std::error_code ignored;
         if (fs::current_path(ignored) != work_dir) return "working directory left at " + fs::current_path(ignored).string();
-        std::string found;
-        for (Watch& w : watches) {
-            const timespec now = modified(w.dir);
-            if (now.tv_sec == w.stamp.tv_sec && now.tv_nsec == w.stamp.tv_nsec) continue;
-            w.stamp = now;
-            // New directories are no concern: the editor makes none, a build beside it does.
-            for (const std::string& n : list(w.dir))
-                if (!w.names.count(n) && !fs::is_directory(w.dir / n, ignored)) found += " " + (w.dir / n).string();
-        }
-        return found.empty() ? found : "new files:" + found;
+        return listing() == before ? "" : "files appeared beside data/";
     }
 
 private:
-    struct Watch {
-        fs::path dir;
-        std::set<std::string> names;
-        timespec stamp;
-    };
-    static std::set<std::string> list(const fs::path& dir) {
+    std::set<std::string> listing() const {
         std::set<std::string> found;
         std::error_code ignored;
-        for (const auto& entry : fs::directory_iterator(dir, ignored)) found.insert(entry.path().filename().string());
+        for (const fs::path& dir : {outer, work_dir})
+            for (const auto& entry : fs::directory_iterator(dir, ignored)) found.insert(entry.path().string());
         return found;
     }
-    static timespec modified(const fs::path& dir) {
-        struct stat s {};
-        stat(dir.c_str(), &s);
-        return s.st_mtim;
-    }
-    fs::path work_dir;
-    std::vector<Watch> watches;
+    fs::path work_dir, outer;
+    std::set<std::string> before;
 };
 
 void drop_queued_events() {
