@@ -3,15 +3,13 @@
 // brush, and the pad kept in "brushpad.dat" across real start-ups.
 #include <sys/stat.h>
 
-#include <filesystem>
-
 #include "app/application.h"
 #include "features/brushpad/brush_pad_pane.h"
 #include "platform/debug_log.h"
 #include "app/tool_options.h"
 #include "app/undo_control.h"
 #include "model/core/safe_file.h"
-#include "tests/app/drawing_fixture.h"
+#include "support/editor_fixture.h"
 
 namespace fs = std::filesystem;
 

@@ -3,7 +3,7 @@
 #include "app/tool_options.h"
 #include "app/undo_control.h"
 #include "features/viewers/undo_meter.h"
-#include "tests/app/drawing_fixture.h"
+#include "support/editor_fixture.h"
 
 namespace {
 const Color red(220, 20, 30);

@@ -1,9 +1,5 @@
 // The main editor driven through its real event routing and modal loops.
 
-#include <gtest/gtest.h>
-
-#include "model/core/commands.h"
-#include "platform/main_window.h"
 #include "app/prompt_dialogs.h"
 #include "app/tileset_tabs.h"
 #include "app/tool_bar.h"

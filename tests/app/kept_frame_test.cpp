@@ -1,11 +1,10 @@
 // The editor keeps its frame between repaints and draws again only what
 // changed: after anything a user does, the window must look exactly as a
 // repaint of everything would draw it.
-#include <gtest/gtest.h>
 
 #include "platform/frame_cache.h"
 #include "app/tool_options.h"
-#include "tests/app/drawing_fixture.h"
+#include "support/editor_fixture.h"
 
 namespace {
 class KeptFrame : public Drawing {

@@ -2,12 +2,8 @@
 // map file this tileset did not read whole never replaced without asking.
 #include "app/map_files.h"
 
-#include <gtest/gtest.h>
-
-#include <filesystem>
 #include <fstream>
 
-#include "model/tileset/tileset.h"
 #include "model/tileset/tileset_file.h"
 #include "model/map/map_file.h"
 #include "support/editor_fixture.h"

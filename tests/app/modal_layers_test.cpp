@@ -2,20 +2,14 @@
 // each pixel of its area shows what the window itself draws there, whatever
 // the editor beneath holds (the brush under the pointer, a stroke, the tool
 // colour panes, a highlighted menu title).
-#include <gtest/gtest.h>
 
 #include <cstdio>
 #include <functional>
-#include <string>
-#include <vector>
 
-#include "model/core/commands.h"
-#include "platform/main_window.h"
 #include "app/prompt_dialogs.h"
 #include "app/tool_bar.h"
 #include "app/tool_options.h"
 #include "support/editor_fixture.h"
-#include "ui/backdrop.h"
 #include "ui/dialog.h"
 #include "ui/menu_bar.h"
 

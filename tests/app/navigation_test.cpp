@@ -2,11 +2,6 @@
 // routing, commands, undo and drawing.
 #include "app/tile_navigation_pane.h"
 
-#include <gtest/gtest.h>
-
-#include "model/core/commands.h"
-#include "platform/main_window.h"
-#include "model/tileset/tileset.h"
 #include "support/editor_fixture.h"
 
 namespace {

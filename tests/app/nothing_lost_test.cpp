@@ -1,13 +1,8 @@
 // The paths on which a user could lose work: a cancelled file dialog, a
 // refused command, a click that changes nothing and a fatal read error.
-#include <gtest/gtest.h>
 
-#include <filesystem>
-
-#include "model/core/commands.h"
 #include "app/recovery.h"
 #include "app/tool_options.h"
-#include "model/tileset/tileset.h"
 #include "model/tileset/tileset_file.h"
 #include "model/map/map_file.h"
 #include "app/undo_control.h"

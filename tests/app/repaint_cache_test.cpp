@@ -1,6 +1,5 @@
 // Panes that keep a picture between repaints must show every change on the
 // very next repaint.
-#include <gtest/gtest.h>
 
 #include "app/tool_options.h"
 #include "platform/ui_colors.h"

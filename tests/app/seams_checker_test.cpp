@@ -10,7 +10,6 @@
 //   included;
 // - a tileset that differs from its last saved file is marked modified.
 // MOSSWICK_CHECKER_SEED and MOSSWICK_CHECKER_STEPS replay or lengthen a run.
-#include <gtest/gtest.h>
 
 #include <chrono>
 #include <cstdlib>
@@ -20,14 +19,10 @@
 #include <functional>
 #include <random>
 #include <sstream>
-#include <string>
-#include <vector>
 
-#include "model/core/commands.h"
 #include "app/tool_options.h"
 #include "features/viewers/arrange_dialog.h"
 #include "features/color/color_tools.h"
-#include "model/tileset/tileset.h"
 #include "model/tileset/tileset_file.h"
 #include "model/map/map_file.h"
 #include "support/editor_fixture.h"

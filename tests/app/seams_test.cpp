@@ -1,20 +1,15 @@
 // Where two parts of the editor meet: the tile list and the undo history,
 // the floating image and Save, the map and its file, the tabs.
-#include <gtest/gtest.h>
 
 #include <sys/stat.h>
 
-#include <filesystem>
 #include <fstream>
 
 #include "app/application.h"
-#include "model/core/commands.h"
-#include "platform/main_window.h"
 #include "app/map_files.h"
 #include "app/tool_options.h"
 #include "app/undo_control.h"
 #include "model/color/palette.h"
-#include "model/tileset/tileset.h"
 #include "model/tileset/tileset_file.h"
 #include "model/map/map_file.h"
 #include "app/selection/selection_tools.h"

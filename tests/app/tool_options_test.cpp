@@ -1,6 +1,4 @@
-#include <gtest/gtest.h>
 
-#include "model/core/commands.h"
 #include "app/tool_options.h"
 #include "support/editor_fixture.h"
 #include "ui/info_panes.h"

@@ -1,11 +1,8 @@
 // The "Preview" pane: the current tile repeated at its real size.
 #include "ui/preview_pane.h"
 
-#include <gtest/gtest.h>
-
-#include "app/drawing_fixture.h"
+#include "support/editor_fixture.h"
 #include "platform/frame_cache.h"
-#include "model/tileset/tileset.h"
 #include "ui/message_box.h"
 #include "ui/ui_globals.h"
 

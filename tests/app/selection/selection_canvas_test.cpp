@@ -1,7 +1,7 @@
 // The selection on the real canvas: selectors, Work selection, the copy
 // buffer across tilesets, Scroll and Freehand rotate, driven through the
 // editor's own loops with pushed events.
-#include "tests/app/drawing_fixture.h"
+#include "support/editor_fixture.h"
 
 #include "app/tool_options.h"
 #include "app/undo_control.h"

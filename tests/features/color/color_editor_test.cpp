@@ -1,15 +1,12 @@
-#include <gtest/gtest.h>
 
 #include <cstring>
 
-#include "model/core/commands.h"
 #include "features/color/edit_hsv_dialog.h"
 #include "app/tool_options.h"
 #include "app/undo_control.h"
 #include "model/color/color_database.h"
 #include "features/color/color_editor.h"
 #include "model/color/palette.h"
-#include "model/tileset/tileset.h"
 #include "support/editor_fixture.h"
 #include "ui/dialog.h"
 #include "ui/dialog_item.h"

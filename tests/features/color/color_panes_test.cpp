@@ -1,6 +1,4 @@
-#include <gtest/gtest.h>
 
-#include "model/core/commands.h"
 #include "app/tool_options.h"
 #include "features/color/color_editor.h"
 #include "features/color/color_tools.h"

@@ -1,12 +1,7 @@
 // The map editor's window driven through its own loop, as the editor opens it.
 #include "features/map/map_view.h"
 
-#include <gtest/gtest.h>
-
-#include "model/core/commands.h"
-#include "model/tileset/tileset.h"
 #include "support/editor_fixture.h"
-#include "ui/backdrop.h"
 
 namespace {
 const Color grass(40, 160, 60);

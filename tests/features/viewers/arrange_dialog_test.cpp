@@ -1,16 +1,7 @@
 // The arrange dialog through its own loop, alone and as the editor's command.
 #include "features/viewers/arrange_dialog.h"
 
-#include <gtest/gtest.h>
-
-#include <memory>
-#include <vector>
-
-#include "model/core/commands.h"
-#include "platform/main_window.h"
-#include "model/tileset/tileset.h"
 #include "support/editor_fixture.h"
-#include "ui/backdrop.h"
 
 namespace {
 constexpr int cells = 16;

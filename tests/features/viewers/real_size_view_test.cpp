@@ -1,11 +1,6 @@
 // "Tiles in real size" and the repeated tile view, drawn through their own loops.
-#include <gtest/gtest.h>
 
-#include "model/core/commands.h"
-#include "platform/main_window.h"
-#include "model/tileset/tileset.h"
 #include "support/editor_fixture.h"
-#include "ui/backdrop.h"
 #include "ui/options.h"
 #include "features/viewers/real_size_view.h"
 #include "features/viewers/repeated_view.h"
