@@ -38,35 +38,7 @@ protected:
         push_click(a.x + 3, a.y + 3);
     }
     fs::path data_file() const { return work_dir / "data" / "test.dlg"; }
-    std::string file_bytes() const {
-        std::ifstream in(data_file(), std::ios::binary);
-        return std::string(std::istreambuf_iterator<char>(in), {});
-    }
 };
-
-TEST_F(DialogRun, YesAcceptsLikeReturnAndSavesEveryItem) {
-    for (SDL_Keycode key : {SDL_Keycode(13), SDL_Keycode('y')}) {
-        auto d = make_dialog();
-        Event_Script script;
-        script.then([&] { click_item(*d, 92); }).then([&] { push_key(key); });
-        EXPECT_TRUE(d->run());
-        EXPECT_FALSE(script.ran_out());
-        EXPECT_EQ(d->value_of(91), 21);
-        // Text rows save their id -1; the unticked tick saves kind 4.
-        const std::string text = "5,-1,4,-1,-1,2,21,0,21,3,3,0,0,2,0,1:";
-        const std::string bytes = file_bytes();
-        ASSERT_EQ(bytes.size(), 4 + text.size());
-        EXPECT_EQ(uint8_t(bytes[0]), text.size());
-        EXPECT_EQ(bytes.substr(1, 3), std::string(3, '\0'));
-        EXPECT_EQ(bytes.substr(4), text);
-        // The next opening reads it back.
-        EXPECT_EQ(make_dialog()->value_of(91), 21);
-        fs::remove(data_file());
-    }
-    // A file of length 0 loads nothing.
-    std::ofstream(data_file(), std::ios::binary).write("\0\0\0\0", 4);
-    EXPECT_EQ(make_dialog()->value_of(91), 20);
-}
 
 // Escape keeps the changed values without saving them; Cancel puts back the
 // values of the opening; a quit or a close request ends the loop.
