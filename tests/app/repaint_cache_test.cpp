@@ -30,19 +30,3 @@ TEST_F(RepaintCache, APaletteColourChangeShowsOnTheNextRepaint) {
     EXPECT_EQ(read_pixel(p.x, p.y), Color(12, 200, 34));
     EXPECT_EQ(read_pixel(cell_centre(6).x, cell_centre(6).y), g_palette->color(0, 6));
 }
-
-TEST_F(RepaintCache, TheBrushButtonsFollowTheCurrentShapeAndSize) {
-    Brush_Selector& b = g_tool_options->brushes();
-    // A point of each button's face that no brush and no bevel covers.
-    auto face = [](const Rectangle& r) { return read_pixel(r.x + 2, r.y + r.height / 2); };
-    b.set_brush(0, 1);
-    g_editor->repaint(false);
-    EXPECT_EQ(face(b.size_button(1)), ui_colors[ui_dark_grey]);
-    EXPECT_EQ(face(b.size_button(3)), ui_colors[ui_grey_112]);
-    b.set_brush(2, 3);
-    g_editor->repaint(false);
-    EXPECT_EQ(face(b.size_button(1)), ui_colors[ui_grey_112]);
-    EXPECT_EQ(face(b.size_button(3)), ui_colors[ui_dark_grey]);
-    EXPECT_EQ(face(b.shape_button(2)), ui_colors[ui_dark_grey]);
-    EXPECT_EQ(face(b.shape_button(0)), ui_colors[ui_grey_112]);
-}

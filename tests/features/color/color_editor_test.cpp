@@ -65,16 +65,6 @@ TEST_F(ColorEditorTest, CtrlLeftClickStoresIntoThePaletteAndCtrlRightDoesNothing
     EXPECT_TRUE(g_palette->dirty());
 }
 
-TEST_F(ColorEditorTest, ATabShowsItsPageAndTheMainPaletteFollowsOnClosing) {
-    const SDL_Point tab = centre(editor().tab_area(1));
-    const SDL_Point ok = centre(editor().button_area(1));
-    Event_Script script;
-    script.then([&] { push_click(tab.x, tab.y); }).then([&] { push_click(ok.x, ok.y); });
-    g_editor->run_command(command_color_editor);
-    EXPECT_EQ(editor().page(), 1);
-    EXPECT_EQ(g_tool_options->color_tools().palette_area().page(), 1);
-}
-
 TEST_F(ColorEditorTest, AnAcceptedAdjustHsvIsOneStepThatUndoRestoresWithoutTheDialog) {
     Tile& tile = *g_editor->canvas().tile();
     tile.fill(Color(100, 0, 0));

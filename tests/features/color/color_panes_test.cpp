@@ -53,26 +53,3 @@ TEST_F(ColorPanes, LessMiddleAndMoreAlwaysWorkOnTheLeftColour) {
     pump();
     EXPECT_EQ(tools().color(0), Color(11, 20, 128));
 }
-
-TEST_F(ColorPanes, SwapAndBrushSizeCommands) {
-    tools().set_tool_color(1, Color(1, 2, 3));
-    tools().set_tool_color(0, Color(4, 5, 6));
-    g_editor->run_command(command_swap_tool_colors);
-    EXPECT_EQ(tools().color(0), Color(1, 2, 3));
-    EXPECT_EQ(tools().color(1), Color(4, 5, 6));
-    EXPECT_EQ(g_tool_options->brush_size(), 1);
-    push_key(SDLK_6);
-    pump();
-    EXPECT_EQ(g_tool_options->brush_size(), 6);
-    // A new shape keeps size 6.
-    const SDL_Point cross = centre(g_tool_options->brushes().shape_button(4));
-    push_click(cross.x, cross.y);
-    pump();
-    EXPECT_EQ(g_tool_options->brushes().shape(), 4);
-    EXPECT_EQ(g_tool_options->brush_size(), 6);
-    // Each brush tool keeps its own brush.
-    g_editor->run_command(command_lightness_pen);
-    EXPECT_EQ(g_tool_options->brush_size(), 1);
-    g_editor->run_command(command_pen);
-    EXPECT_EQ(g_tool_options->brush_size(), 6);
-}
