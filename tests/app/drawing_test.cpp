@@ -170,3 +170,25 @@ TEST_F(Drawing, TheMeterShowsOneOrangeBarAtTheCurrentRecord) {
     EXPECT_GE(meter.outer_area().x, 28);
     EXPECT_LE(meter.outer_area().x + meter.outer_area().width, 264);
 }
+
+// A row's "More" button is its first item, at the client's left.
+TEST_F(Drawing, ToolOptionRowsTakeClicksOnTheirPagesAndTheHiddenRightButtonRowToo) {
+    auto press_row = [](int id) {
+        const Rectangle c = g_tool_options->row(id).client_area();
+        push_click(c.x + 4, c.y + 4);
+        pump();
+    };
+    use_tool(command_lightness_pen);
+    press_row(tool_pages::row_speed);
+    EXPECT_EQ(g_tool_options->speed(), 4);
+    // The smudge brush's page does not show "Right button mode", yet its
+    // place below the brush selector still takes the click.
+    use_tool(command_pen);
+    use_tool(command_smudge_brush);
+    press_row(tool_pages::row_right_button_mode);
+    EXPECT_EQ(g_tool_options->right_button_mode(), 1);
+    // The line page has no choice rows: nothing there takes a click.
+    use_tool(command_line);
+    press_row(tool_pages::row_right_button_mode);
+    EXPECT_EQ(g_tool_options->right_button_mode(), 1);
+}

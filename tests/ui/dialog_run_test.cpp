@@ -87,24 +87,6 @@ TEST_F(DialogRun, StepsWrapAroundAndTicksToggle) {
     EXPECT_EQ(d->value_of(40), 1);
 }
 
-TEST_F(DialogRun, RadioGroupsKeepExactlyOneChoice) {
-    auto group = std::make_shared<Radio_Group>();
-    Dialog d("Radio");
-    auto row = std::make_unique<Dialog_Row>();
-    for (uint32_t id = 1; id <= 3; ++id)
-        row->add(std::make_unique<Radiobutton_Dialog_Item>(id, Dialog_Item::no_id, id == 1, group));
-    d.add_row(std::move(row));
-    d.finish(false);
-    Event_Script script;
-    script.then([&] { click_item(d, 3); })
-        .then([&] { click_item(d, 3); })
-        .then([] { push_key(13); });
-    EXPECT_TRUE(d.run());
-    EXPECT_EQ(d.value_of(1), 0);
-    EXPECT_EQ(d.value_of(2), 0);
-    EXPECT_EQ(d.value_of(3), 1);
-}
-
 TEST_F(DialogRun, SaveFailuresAreReported) {
     Message_Box* box = g_message_box;
     g_message_box = nullptr;  // the warning then goes to the debug log

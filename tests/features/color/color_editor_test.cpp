@@ -1,4 +1,4 @@
-
+// The colour editor window and the colour panes beside the canvas.
 #include <cstring>
 
 #include "features/color/edit_hsv_dialog.h"
@@ -6,6 +6,7 @@
 #include "app/undo_control.h"
 #include "model/color/color_database.h"
 #include "features/color/color_editor.h"
+#include "features/color/color_tools.h"
 #include "model/color/palette.h"
 #include "support/editor_fixture.h"
 #include "ui/dialog.h"
@@ -24,25 +25,6 @@ protected:
     }
 };
 }  // namespace
-
-TEST_F(ColorEditorTest, HoveringPinkShowsItsReadoutAndEscapeKeepsTheToolColours) {
-    const int pink = swatch_of("Pink");
-    ASSERT_GE(pink, 0);
-    const SDL_Point p = centre(editor().swatch_area(pink));
-    Color shown;
-    Event_Script script;
-    script.then([&] { push_motion(p.x, p.y); })
-        .then([&] {
-            shown = editor().shown_color();
-            push_key(SDLK_ESCAPE);
-        });
-    g_editor->run_command(command_color_editor);
-    EXPECT_FALSE(script.ran_out());
-    EXPECT_EQ(shown, Color(255, 192, 203, 255));
-    EXPECT_NEAR(100 * luminance(shown), 63.3, 0.05);
-    EXPECT_STREQ(g_color_database->name_of(shown), "Pink");
-    EXPECT_EQ(g_tool_options->tool_color(0), Color(0, 0, 0));
-}
 
 TEST_F(ColorEditorTest, CtrlLeftClickStoresIntoThePaletteAndCtrlRightDoesNothing) {
     const SDL_Point s = centre(editor().swatch_area(swatch_of("Crimson")));
@@ -104,4 +86,16 @@ TEST_F(ColorEditorTest, AnAcceptedAdjustHsvIsOneStepThatUndoRestoresWithoutTheDi
     EXPECT_FALSE(script.ran_out());
     EXPECT_EQ(tile.get_pixel(3, 3), Color(100, 0, 0));
     EXPECT_EQ(t.history().count(), records + 1);
+}
+
+TEST_F(ColorEditorTest, RightClickOnAPaletteCellSetsAndSelectsTheRightColour) {
+    Color_Tools& tools = g_tool_options->color_tools();
+    const Rectangle c = tools.palette_area().client_area();
+    // Cell 3 of the first row of "Default": 132, 110, 234.
+    push_click(c.x + 3 * 24 + 12, c.y + 12, SDL_BUTTON_RIGHT);
+    pump();
+    EXPECT_EQ(tools.color(1), Color(132, 110, 234));
+    EXPECT_EQ(tools.selected_index(), 1u);
+    EXPECT_EQ(tools.color(0), Color(0, 0, 0));
+    EXPECT_EQ(tools.palette_area().cell_at(c.x + 191, c.y + 95), 31);
 }

@@ -38,20 +38,3 @@ TEST_F(Strip, PagesKeepFiveTilesOfOverlapAndNeverShowOnlyEmptyCells) {
     EXPECT_EQ(strip.first(), 0);
     EXPECT_FALSE(strip.can_page_back());
 }
-
-TEST_F(Strip, TheCurrentTileIsScrolledIntoTheNearestEnd) {
-    fill(120);
-    store.go_to(100);
-    strip.make_current_visible();
-    EXPECT_EQ(strip.first(), 50);  // forward: into the last cell
-    store.go_to(20);
-    strip.make_current_visible();
-    EXPECT_EQ(strip.first(), 20);  // backward: into the first cell
-    store.go_to(60);
-    strip.make_current_visible();
-    EXPECT_EQ(strip.first(), 20);  // already in view
-    strip.forward();
-    EXPECT_EQ(store.current_index(), 119);
-    strip.rewind();
-    EXPECT_EQ(store.current_index(), 0);
-}
