@@ -21,16 +21,8 @@ namespace fs = std::filesystem;
 
 // Lowest first. Folders on one rank may not include each other.
 const std::vector<std::vector<std::string>> ranks = {
-    {"model/core"},
-    {"model/color"},
-    {"model/tile"},
-    {"model/paint"},
-    {"model/selection"},
-    {"model/brushpad"},
-    {"model/map"},
-    {"model/tileset"},
-    {"platform"},
-    {"ui"},
+    {"model/core"}, {"model/color"}, {"model/tile"}, {"model/paint"}, {"model/selection"}, {"model/brushpad"},
+    {"model/map"},  {"model/tileset"}, {"platform"}, {"ui"},
     {"features/color", "features/viewers", "features/selection", "features/map", "features/brushpad"},
     {"app"},
 };

@@ -236,7 +236,8 @@ TEST_F(BrushPad, ARefusedFileLeavesThePadEmptyAndIsNeverWrittenOver) {
     EXPECT_TRUE(pad().empty());
     EXPECT_TRUE(pad_pane().file_refused());
     const auto& log = g_debug_log->lines();
-    EXPECT_TRUE(std::any_of(log.begin(), log.end(), [](const std::string& l) { return l.find("brushpad.dat refused") != std::string::npos; }));
+    EXPECT_TRUE(std::any_of(log.begin(), log.end(),
+                            [](const std::string& l) { return l.find("brushpad.dat refused") != std::string::npos; }));
     ASSERT_TRUE(g_editor->use_as_brush(*make_brush()));
     g_editor->run_command(command_move_to_pad);
     EXPECT_EQ(pad().count(), 1);

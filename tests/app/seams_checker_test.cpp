@@ -314,7 +314,8 @@ TEST_F(Checker, UndoRedoSaveAndLoadGiveBackWhatTheUserSaw) {
         const size_t back_to = track->steps.size() - track->at;  // steps after the floor may go
         while (track->at > 0 && !HasFatalFailure()) undo(*track);
         while (track->steps.size() - track->at > back_to && !HasFatalFailure()) redo(*track);
-        ASSERT_TRUE(seen(current()) == before) << "undo all, redo all: " << describe(seen(current()), before) << "\n" << log();
+        ASSERT_TRUE(seen(current()) == before)
+            << "undo all, redo all: " << describe(seen(current()), before) << "\n" << log();
     };
     // What changes the document, then undo, redo and the sweep, which follow no new step.
     const struct {

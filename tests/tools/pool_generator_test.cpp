@@ -3,43 +3,23 @@
 // never drift apart.
 #include <gtest/gtest.h>
 
-#include <cstdint>
 #include <cstdlib>
-#include <filesystem>
-#include <fstream>
-#include <iterator>
-#include <string>
-#include <vector>
 
-#include <unistd.h>
-
-namespace {
-
-std::vector<char> read_all(const std::filesystem::path& path)
-{
-    std::ifstream in(path, std::ios::binary);
-    return {std::istreambuf_iterator<char>(in), std::istreambuf_iterator<char>()};
-}
-
-}  // namespace
+#include "support/scratch_dir.h"
 
 #ifdef MOSSWICK_MAKE_POOL
-TEST(PoolGenerator, RegeneratesTheCommittedSheetByteForByte)
-{
-    const std::filesystem::path out =
-        std::filesystem::temp_directory_path() / ("mosswick_pool_" + std::to_string(getpid()) + ".bmp");
-    const std::string command = std::string("\"") + MOSSWICK_MAKE_POOL + "\" \"" + out.string() + "\"";
+TEST(PoolGenerator, RegeneratesTheCommittedSheetByteForByte) {
+    Scratch_Dir dir;
+    const std::string out = dir.file("pool.bmp");
+    const std::string command = std::string("\"") + MOSSWICK_MAKE_POOL + "\" \"" + out + "\"";
     ASSERT_EQ(std::system(command.c_str()), 0) << command;
-    const std::vector<char> made = read_all(out);
-    std::filesystem::remove(out);
-    const std::vector<char> committed = read_all(std::filesystem::path(MOSSWICK_SOURCE_DIR) / "data" / "pool.bmp");
+    const std::vector<unsigned char> made = read_bytes(out);
+    const std::vector<unsigned char> committed = read_bytes(std::string(MOSSWICK_SOURCE_DIR) + "/data/pool.bmp");
     ASSERT_FALSE(committed.empty());
-    ASSERT_EQ(made.size(), committed.size());
-    // Compare as a whole and report only the first difference, not the whole sheet.
-    std::size_t first_difference = 0;
-    while (first_difference < made.size() && made[first_difference] == committed[first_difference])
-        ++first_difference;
-    EXPECT_EQ(first_difference, made.size()) << "regenerated sheet differs from data/pool.bmp at byte "
-                                              << first_difference << "; run make_pool data/pool.bmp";
+    // Only the first difference is reported, not the whole sheet.
+    const auto differ = std::mismatch(made.begin(), made.end(), committed.begin(), committed.end());
+    EXPECT_TRUE(differ.first == made.end() && differ.second == committed.end())
+        << "regenerated sheet differs from data/pool.bmp at byte " << (differ.first - made.begin())
+        << "; run make_pool data/pool.bmp";
 }
 #endif

@@ -56,7 +56,8 @@ TEST(MapFile, ARoundTripKeepsEveryCellAndTheFileSaysWhatTiledReads) {
         return all;
     };
     // Some loaders refuse maps without a tiledversion; the sheet lies beside the map.
-    EXPECT_EQ(attributes(map, {"orientation", "renderorder", "tiledversion", "width", "height", "tilewidth", "tileheight"}),
+    EXPECT_EQ(attributes(map, {"orientation", "renderorder", "tiledversion", "width", "height", "tilewidth",
+                               "tileheight"}),
               std::string("orientation=orthogonal renderorder=right-down tiledversion=") + Map_File::tiled_version +
                   " width=20 height=15 tilewidth=24 tileheight=32 ");
     const tinyxml2::XMLElement* tileset = map->FirstChildElement("tileset");
