@@ -48,7 +48,10 @@ protected:
         push_click(x, y, button);
         pump();
     }
-    static void click(const Rectangle& r) { click(r.x + r.width / 2, r.y + r.height / 2); }
+    static void click(const Rectangle& r) {
+        push_click(r);
+        pump();
+    }
     // Refused with a note, nothing recorded, the pad unchanged.
     static void expect_refused(int command) {
         const int count = pad().count();

@@ -146,10 +146,7 @@ TEST_F(EditorTest, TabsMakeTheirTilesetCurrentAndCloseFollowsTheListRules) {
 
 TEST_F(EditorTest, NewTilesetDialogKeepsItsValuesAndCanResizeInstead) {
     Dialog& dialog = g_prompt_dialogs->new_tileset();
-    auto click_item = [&dialog](uint32_t id) {
-        const Rectangle r = dialog.find(id)->area;
-        push_click(r.x + r.width / 2, r.y + r.height / 2);
-    };
+    auto click_item = [&dialog](uint32_t id) { push_click(dialog.find(id)->area); };
     Event_Script script;
     script.then([&] {
               click_item(0);  // width "Less" twice

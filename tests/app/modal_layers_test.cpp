@@ -118,7 +118,6 @@ protected:
         SDL_PushEvent(&e);
     }
 
-    static SDL_Point centre(const Rectangle& r) { return SDL_Point{r.x + r.width / 2, r.y + r.height / 2}; }
 
     // A press on the menu's title opens it; the first step presses the entry.
     void through_menu(const char* window, int command, const Steps& then = {}) {

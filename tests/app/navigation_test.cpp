@@ -21,8 +21,7 @@ protected:
         g_editor->run_command(command_rewind_strip);
     }
     static void click_button(int button) {
-        const Rectangle r = pane().button_area(button);
-        push_click(r.x + r.width / 2, r.y + r.height / 2);
+        push_click(pane().button_area(button));
         pump();
     }
 };

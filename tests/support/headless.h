@@ -27,6 +27,10 @@ protected:
     static void push_text_key(char c);
     static void push_button(int x, int y, bool down, Uint8 button = SDL_BUTTON_LEFT);
     static void push_click(int x, int y, Uint8 button = SDL_BUTTON_LEFT);
+    static SDL_Point centre(const Rectangle& r) { return SDL_Point{r.x + r.width / 2, r.y + r.height / 2}; }
+    static void push_click(const Rectangle& r, Uint8 button = SDL_BUTTON_LEFT) {
+        push_click(r.x + r.width / 2, r.y + r.height / 2, button);
+    }
     static void push_motion(int x, int y, Uint32 buttons = 0, float xrel = 0, float yrel = 0);
     static void push_quit();
     static void push_close_request();

@@ -3,6 +3,7 @@
 #include <unistd.h>
 
 #include <cerrno>
+#include <cstdint>
 #include <cstdio>
 #include <cstdlib>
 #include <filesystem>
@@ -52,6 +53,14 @@ inline void write_bytes(const std::string& path, const std::vector<unsigned char
 inline std::vector<unsigned char> read_bytes(const std::string& path) {
     std::ifstream in(path, std::ios::binary);
     return std::vector<unsigned char>(std::istreambuf_iterator<char>(in), {});
+}
+
+// A stream file as the program writes it: the little-endian length, then the text.
+inline void write_stream(const std::string& path, const std::string& text) {
+    const uint32_t n = uint32_t(text.size());
+    std::vector<unsigned char> bytes{uint8_t(n), uint8_t(n >> 8), uint8_t(n >> 16), uint8_t(n >> 24)};
+    bytes.insert(bytes.end(), text.begin(), text.end());
+    write_bytes(path, bytes);
 }
 
 inline std::string read_text(const std::string& path) {

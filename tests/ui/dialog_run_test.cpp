@@ -29,10 +29,7 @@ protected:
         d->finish(true);
         return d;
     }
-    static void click_item(Dialog& d, uint32_t id) {
-        const Rectangle a = d.find(id)->area;
-        push_click(a.x + a.width / 2, a.y + a.height / 2);
-    }
+    static void click_item(Dialog& d, uint32_t id) { push_click(d.find(id)->area); }
     static void click_bar(Dialog& d, size_t index) {
         const Rectangle a = d.container().rows().back()->items()[index]->area;
         push_click(a.x + 3, a.y + 3);

@@ -16,7 +16,6 @@ namespace {
 class ColorEditorTest : public Editor_Fixture {
 protected:
     static Color_Editor& editor() { return g_editor->colors(); }
-    static SDL_Point centre(const Rectangle& r) { return SDL_Point{r.x + r.width / 2, r.y + r.height / 2}; }
     static int swatch_of(const char* name) {
         const auto& list = editor().entries();
         for (size_t i = 0; i < list.size(); ++i)

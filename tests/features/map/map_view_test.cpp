@@ -31,7 +31,6 @@ protected:
 
     // Where the window's view stands: every view of a map of this size does.
     Map_View probe() { return Map_View(tileset().map(), store(), "probe"); }
-    static SDL_Point middle(const Rectangle& r) { return SDL_Point{r.x + r.width / 2, r.y + r.height / 2}; }
 };
 
 TEST_F(MapViewTest, PaintFillPickSeamsAndUndoThroughTheEditorsCommand) {
@@ -40,7 +39,7 @@ TEST_F(MapViewTest, PaintFillPickSeamsAndUndoThroughTheEditorsCommand) {
     const Rectangle p = view.picture();
     EXPECT_EQ(view.zoom(), 1) << "20 x 20 cells of 24 pixels fill 480 of the 560 pixels";
     EXPECT_EQ(p.width, 480);
-    auto cell = [&](int x, int y) { return middle(view.cell_area(x, y)); };
+    auto cell = [&](int x, int y) { return centre(view.cell_area(x, y)); };
     auto chooser_tile = [&](int i) {
         const Rectangle c = view.chooser();
         return SDL_Point{c.x + i * Map_View::chooser_cell + 16, c.y + 16};
@@ -60,8 +59,7 @@ TEST_F(MapViewTest, PaintFillPickSeamsAndUndoThroughTheEditorsCommand) {
         push_button(cell(3, 0).x, cell(3, 0).y, false);
         // Grass poured over everything still empty, then the seam checker.
         push_click(chooser_tile(0).x, chooser_tile(0).y);
-        const SDL_Point fill = middle(view.button(Map_View::button_fill));
-        push_click(fill.x, fill.y);
+        push_click(view.button(Map_View::button_fill));
         push_click(cell(7, 9).x, cell(7, 9).y);
         push_key(SDLK_S);
     });
@@ -109,8 +107,8 @@ TEST_F(MapViewTest, CellsShowTheirTilesCurrentPixelsWithGridAndEraser) {
     tileset().map().mark_saved();  // as read from its file
     const Map_View view = probe();
     const Rectangle p = view.picture();
-    const SDL_Point first = middle(view.cell_area(0, 0));
-    const SDL_Point second = middle(view.cell_area(1, 0));
+    const SDL_Point first = centre(view.cell_area(0, 0));
+    const SDL_Point second = centre(view.cell_area(1, 0));
 
     // A step finds the frame presented before it: each run's first step only
     // moves the pointer away, so the second sees the view.
@@ -143,14 +141,12 @@ TEST_F(MapViewTest, CellsShowTheirTilesCurrentPixelsWithGridAndEraser) {
     script.then(look);
     script.then([&] {
         repainted = read_pixel(second.x, second.y);
-        const SDL_Point eraser = middle(view.button(Map_View::button_eraser));
-        push_click(eraser.x, eraser.y);
+        push_click(view.button(Map_View::button_eraser));
         push_click(first.x, first.y);
     });
     script.then([&] {
         erased = read_pixel(first.x, first.y);
-        const SDL_Point close = middle(view.button(Map_View::button_close));
-        push_click(close.x, close.y);
+        push_click(view.button(Map_View::button_close));
     });
     EXPECT_EQ(g_editor->execute(command_map_editor), -1);
     EXPECT_FALSE(script.ran_out());

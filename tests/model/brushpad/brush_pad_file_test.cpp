@@ -31,15 +31,6 @@ void expect_same_pixels(const Tile& a, const Tile& b) {
             EXPECT_EQ(a.get_pixel(x, y).word(), b.get_pixel(x, y).word()) << x << "," << y;
 }
 
-// The stream text of a file, written as the program writes it: the
-// little-endian length, then the text.
-void write_stream(const std::string& path, const std::string& text) {
-    std::vector<unsigned char> bytes;
-    const uint32_t n = uint32_t(text.size());
-    for (int i = 0; i < 4; ++i) bytes.push_back(static_cast<unsigned char>(n >> (8 * i)));
-    bytes.insert(bytes.end(), text.begin(), text.end());
-    write_bytes(path, bytes);
-}
 }  // namespace
 
 TEST(BrushPadStore, AddsRefusesDuplicatesAndOversizeKeepsCapacityAndDeletesTheSelected) {

@@ -10,15 +10,6 @@
 
 namespace {
 
-// A palette file holding the given text behind its length.
-void write_palette_file(const std::string& path, const std::string& text) {
-    std::vector<unsigned char> bytes(4);
-    const uint32_t length = static_cast<uint32_t>(text.size());
-    for (int i = 0; i < 4; ++i) bytes[i] = static_cast<unsigned char>(length >> (8 * i));
-    bytes.insert(bytes.end(), text.begin(), text.end());
-    write_bytes(path, bytes);
-}
-
 std::string stored_text(const std::string& path) {
     const auto bytes = read_bytes(path);
     if (bytes.size() < 4) return {};
@@ -61,14 +52,14 @@ TEST(PaletteReading, WhatIsWrittenReadsBackAndOlderFilesStillRead) {
 
     // Written before: each name glued to the number before it, a page of no
     // colours included; a file of names only is read as it always was.
-    write_palette_file(path, "2,1,10,20,30,255Warm,,0Empty,:");
+    write_stream(path, "2,1,10,20,30,255Warm,,0Empty,:");
     Palette older(path);
     ASSERT_EQ(older.page_count(), 2);
     EXPECT_EQ(older.name(0), "Warm");
     EXPECT_EQ(older.color(0, 0), Color(10, 20, 30));
     EXPECT_EQ(older.name(1), "Empty");
     EXPECT_EQ(older.count(1), 0);
-    write_palette_file(path, "2,4,Sky,2,Sea,:");
+    write_stream(path, "2,4,Sky,2,Sea,:");
     Palette names(path);
     ASSERT_EQ(names.page_count(), 2);
     EXPECT_EQ(names.name(1), "Sea");
@@ -78,7 +69,7 @@ TEST(PaletteReading, WhatIsWrittenReadsBackAndOlderFilesStillRead) {
 TEST(PaletteWriting, EmptyNameBecomesRolololo) {
     Scratch_Dir dir;
     const std::string path = dir.file("palette.dat");
-    write_palette_file(path, "1,2,:");
+    write_stream(path, "1,2,:");
     {
         Palette palette(path);
         ASSERT_EQ(palette.page_count(), 1);
@@ -94,7 +85,7 @@ TEST(PaletteReading, DamagedCountsFallBackToTheBuiltInPagesAndLeaveTheFile) {
     Scratch_Dir dir;
     const std::string path = dir.file("palette.dat");
     for (const char* text : {"1,-3,name:", "1,100000,name:", "2147483647:", "65:"}) {
-        write_palette_file(path, text);
+        write_stream(path, text);
         const auto bytes = read_bytes(path);
         {
             Palette palette(path);
@@ -106,7 +97,7 @@ TEST(PaletteReading, DamagedCountsFallBackToTheBuiltInPagesAndLeaveTheFile) {
         EXPECT_EQ(read_bytes(path), bytes) << text;
     }
     // Within the bounds the reading rules hold: missing tokens give empty pages.
-    write_palette_file(path, "5,256,a:");
+    write_stream(path, "5,256,a:");
     Palette palette(path);
     ASSERT_EQ(palette.page_count(), 5);
     EXPECT_EQ(palette.count(0), 256);

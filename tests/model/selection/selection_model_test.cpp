@@ -102,11 +102,9 @@ TEST(CopyBuffer, ClonesAreCentredAnchoredOrResizedForLargerAndSmallerImages) {
     small.set_pixel(0, 0, Color(0, 0, 0, 0));
     buffer.keep(small, 0, 0, 4, 2);
     Placement p = buffer.place(16, 16, Copy_Buffer::centre);
-    EXPECT_EQ(p.x, 6);
-    EXPECT_EQ(p.y, 7);
+    EXPECT_EQ(std::make_pair(p.x, p.y), std::make_pair(6, 7));
     p = buffer.place(16, 16, Copy_Buffer::top_left);
-    EXPECT_EQ(p.x, 0);
-    EXPECT_EQ(p.y, 0);
+    EXPECT_EQ(std::make_pair(p.x, p.y), std::make_pair(0, 0));
     p = buffer.place(16, 16, Copy_Buffer::resize);
     ASSERT_EQ(p.image->width(), 16);
     EXPECT_EQ(p.image->height(), 16);
@@ -117,8 +115,7 @@ TEST(CopyBuffer, ClonesAreCentredAnchoredOrResizedForLargerAndSmallerImages) {
     large.fill(Color(1, 2, 3));
     buffer.keep(large, 0, 0, 20, 10);
     p = buffer.place(8, 8, Copy_Buffer::centre);
-    EXPECT_EQ(p.x, -6);  // overhangs evenly
-    EXPECT_EQ(p.y, -1);
+    EXPECT_EQ(std::make_pair(p.x, p.y), std::make_pair(-6, -1));  // overhangs evenly
     EXPECT_EQ(p.image->width(), 20);
     p = buffer.place(8, 8, Copy_Buffer::resize);
     EXPECT_EQ(p.image->width(), 8);
