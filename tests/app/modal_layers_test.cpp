@@ -144,9 +144,34 @@ TEST_F(ModalLayers, CloseQuestion) { through_menu("Close question", command_clos
 
 TEST_F(ModalLayers, MapEditor) { through_menu("Map editor", command_map_editor); }
 
+TEST_F(ModalLayers, HelpBoxOfAToolButton) {
+    const Rectangle first_tool{0, 32, 24, 24};
+    const SDL_Point p = centre(first_tool);
+    g_main_window->warp(p.x, p.y);
+    ASSERT_EQ(g_editor->tools().command_at(g_main_window->mouse_position().x, g_main_window->mouse_position().y),
+              int(command_pen));
+    expect_drawn_whole("Help box", [] { push_key(SDLK_F1); });
+}
+
+TEST_F(ModalLayers, MenuOpenedAfterAnother) {
+    const Menu_Bar& bar = g_editor->menus();
+    const SDL_Point first = centre(bar.menu(0).title.area);
+    const SDL_Point other = centre(bar.menu(4).title.area);
+    expect_drawn_whole("Menu", [first] { push_click(first.x, first.y); },
+                       {[other] { push_motion(other.x, other.y); }});
+}
+
 TEST_F(ModalLayers, ColorEditor) { through_menu("Color editor", command_color_editor); }
 
 TEST_F(ModalLayers, EditHsvDialog) {
     const SDL_Point p = centre(g_tool_options->adjust_button());
     expect_drawn_whole("Edit HSV", [p] { push_click(p.x, p.y); });
+}
+
+TEST_F(ModalLayers, UndoHistoryViewer) { through_menu("Undo history", command_view_undo_history); }
+
+TEST_F(ModalLayers, NumberPromptOverItsDialog) {
+    const Rectangle number = g_prompt_dialogs->new_tileset().find(Prompt_Dialogs::width_id)->area;
+    const SDL_Point p = centre(number);
+    through_menu("Number prompt", command_new, {[p] { push_click(p.x, p.y); }});
 }

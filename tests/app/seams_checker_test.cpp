@@ -356,12 +356,12 @@ TEST_F(Checker, UndoRedoSaveAndLoadGiveBackWhatTheUserSaw) {
         int roll = pick(total);
         int op = 0;
         while (roll >= operations[op].weight) roll -= operations[op++].weight;
-        recent.push_back(std::to_string(step) + ": " + operations[op].name + " on " + t.path().name + ", tile " +
-                         std::to_string(t.store().current_index()) + " of " + std::to_string(t.store().tile_count()) +
-                         ", record " + std::to_string(t.history().position()) + " of " +
-                         std::to_string(t.history().count()) + ", step " + std::to_string(track->at) + " of " +
-                         std::to_string(track->steps.size()) +
-                         (g_editor->canvas().tile_selection().float_pending() ? ", floating" : ""));
+        char line[200];
+        std::snprintf(line, sizeof line, "%d: %s on %s, tile %d of %d, record %d of %d, step %zu of %zu%s", step,
+                      operations[op].name, t.path().name.c_str(), t.store().current_index(), t.store().tile_count(),
+                      t.history().position(), t.history().count(), track->at, track->steps.size(),
+                      g_editor->canvas().tile_selection().float_pending() ? ", floating" : "");
+        recent.push_back(line);
         if (recent.size() > 12) recent.pop_front();
         const Seen before = op < changes ? seen(t) : Seen{};
         operations[op].run();

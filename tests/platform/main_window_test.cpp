@@ -5,7 +5,6 @@
 #include <vector>
 
 #include "platform/globals.h"
-#include "platform/texture.h"
 #include "platform/ui_colors.h"
 #include "support/headless.h"
 
@@ -42,25 +41,4 @@ TEST_F(MainWindow, FrameDarkensTopLeftLessThanBottomRight) {
     EXPECT_EQ(read_pixel(15, 12), Color(60, 80, 100));
     EXPECT_EQ(read_pixel(12, 15), Color(60, 80, 100));
     EXPECT_EQ(read_pixel(12, 12), Color(137, 137, 137));
-}
-
-TEST_F(MainWindow, PixelTexturesShowTheColoursTheyWereGiven) {
-    const Color pixels[4] = {Color(10, 20, 30), Color(200, 100, 50), Color(0, 0, 0, 0), Color(1, 2, 3)};
-    Texture* t = Texture::from_pixels(g_main_window->renderer(), pixels, 2, 2);
-    g_main_window->clear();
-    t->draw_at(300, 300);
-    EXPECT_EQ(read_pixel(300, 300), Color(10, 20, 30));
-    EXPECT_EQ(read_pixel(301, 300), Color(200, 100, 50));
-    EXPECT_EQ(read_pixel(300, 301), Color(137, 137, 137));  // transparent
-    EXPECT_EQ(read_pixel(301, 301), Color(1, 2, 3));
-    // Updates replace the pixels in place, and draw_in scales.
-    const Color changed[4] = {Color(255, 255, 0), Color(255, 255, 0), Color(255, 255, 0), Color(255, 255, 0)};
-    t->source = SDL_FRect{0, 0, 1, 1};  // showing only a part must not shrink the update
-    t->update(changed);
-    t->source = SDL_FRect{0, 0, 2, 2};
-    t->draw_in(Rectangle{310, 300, 8, 8});
-    EXPECT_EQ(read_pixel(317, 307), Color(255, 255, 0));
-    EXPECT_EQ(t->width(), 2);
-    EXPECT_EQ(t->height(), 2);
-    delete t;
 }

@@ -6,7 +6,6 @@
 #include "app/tool_options.h"
 #include "app/undo_control.h"
 #include "model/tile/transforms.h"
-#include "features/selection/buffer_pane.h"
 #include "app/selection/selection_tools.h"
 #include "model/selection/mask_ops.h"
 #include "ui/info_panes.h"
@@ -200,24 +199,6 @@ TEST_F(Selecting, ScrollDragWrapsAndFreehandRotateStartsFromThePressEveryMove) {
     EXPECT_EQ(degrees.value(), 90);
     undo();
     EXPECT_EQ(tile().get_pixel(20, 11), blue);
-}
-
-TEST_F(Selecting, ThePreviousCopiesAreThumbnailsAClickMakesOneCurrent) {
-    use_tool(command_rectangle_selector);
-    for (int w = 1; w <= 3; ++w) {
-        stroke({{0, 0}, {w - 1, 1}});
-        key(SDLK_C, SDL_KMOD_CTRL);
-    }
-    use_tool(command_work_selection);
-    g_editor->repaint(true);
-    Buffer_Pane& pane = g_tool_options->buffer_pane();
-    const Rectangle oldest = pane.thumbnail(2);
-    const Color body = read_pixel(pane.thumbnail(3).x + 2, pane.thumbnail(3).y + 2);
-    EXPECT_NE(read_pixel(oldest.x + 2, oldest.y + 2), body);
-    push_click(oldest.x + 5, oldest.y + 5);
-    pump();
-    EXPECT_EQ(g_editor->selection().buffer().current()->width(), 1);
-    EXPECT_EQ(g_editor->selection().buffer().at(1)->width(), 3);
 }
 
 TEST_F(Selecting, AnotherTileClearsTheSelection) {

@@ -59,11 +59,6 @@ TEST(TileStore, AddInsertAndInsertCopyPlaceTilesAndAFullStoreRefusesThem) {
 }
 
 TEST(TileStore, MovingStopsAtTheEndsAndDeletingKeepsAPlace) {
-    Tile_Store empty(4, 4, 256);
-    EXPECT_FALSE(empty.next());
-    EXPECT_FALSE(empty.delete_tile());
-    EXPECT_EQ(empty.pixel_of_current(0, 0), Color(0, 0, 0, 0));
-
     Tile_Store store(4, 4, 256);
     add_marked(store, 4);
     store.go_to(0);
