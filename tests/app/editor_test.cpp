@@ -6,40 +6,21 @@
 #include "support/editor_fixture.h"
 #include "ui/dialog.h"
 
-namespace {
-// Answers file dialogs with a fixed path and records what was asked.
-struct Scripted_Chooser {
-    int result = file_chosen;
-    std::string path;
-    int calls = 0;
-    int last_kind = -1;
-    void install() {
-        set_file_chooser([this](int kind, const std::string&, std::string& chosen) {
-            ++calls;
-            last_kind = kind;
-            chosen = path;
-            return result;
-        });
-    }
-};
-}  // namespace
 
 using EditorTest = Editor_Fixture;
 
 TEST_F(EditorTest, KeysFollowTheModifierOrderAndModifiersAloneDoNothing) {
-    Scripted_Chooser chooser;
-    chooser.result = file_cancelled;
-    chooser.install();
+    answer_files_with("", file_cancelled);
     // Ctrl+Shift+S reads as Shift+S, which is bound to nothing: no save dialog.
     push_key(SDLK_S, SDL_Keymod(SDL_KMOD_CTRL | SDL_KMOD_SHIFT));
     push_key(SDLK_LCTRL, SDL_KMOD_CTRL);
     pump();
-    EXPECT_EQ(chooser.calls, 0);
+    EXPECT_EQ(asked.count, 0);
     // Ctrl+S saves, and an unnamed tileset asks for a name.
     push_key(SDLK_S, SDL_KMOD_CTRL);
     pump();
-    EXPECT_EQ(chooser.calls, 1);
-    EXPECT_EQ(chooser.last_kind, file_save_tileset);
+    EXPECT_EQ(asked.count, 1);
+    EXPECT_EQ(asked.last_kind, file_save_tileset);
 
     // "r" rotates, Shift+R rotates back: a marked corner travels around.
     Tile& tile = *g_editor->canvas().tile();
@@ -92,9 +73,7 @@ TEST_F(EditorTest, CtrlRightDragPansAndAQuitDuringThePanOnlyEndsIt) {
 
 TEST_F(EditorTest, SaveAfterLoadAsksForANameAndSavesUnderTheForcedExtension) {
     Temp_Dir dir;
-    Scripted_Chooser chooser;
-    chooser.path = (dir.path / "tiles.bmp").string();
-    chooser.install();
+    answer_files_with((dir.path / "tiles.bmp").string());
     g_editor->execute(command_add_new_tile);
     g_editor->execute(command_save);
     const std::string saved = (dir.path / "tiles.wst").string();
@@ -104,26 +83,25 @@ TEST_F(EditorTest, SaveAfterLoadAsksForANameAndSavesUnderTheForcedExtension) {
     EXPECT_FALSE(g_editor->current()->is_modified());
 
     // A named, unmodified tileset: "Save" asks nothing and writes nothing.
-    chooser.calls = 0;
+    asked = {};
     g_editor->execute(command_save);
-    EXPECT_EQ(chooser.calls, 0);
+    EXPECT_EQ(asked.count, 0);
 
     // The file open in a tab is not opened twice: its tab is shown.
-    chooser.path = saved;
+    answer_files_with(saved);
     g_editor->execute(command_load);
     EXPECT_EQ(g_editor->tilesets().count(), 1);
     const std::string copy = (dir.path / "copy.wst").string();
     std::filesystem::copy_file(saved, copy);
-    chooser.path = copy;
+    answer_files_with(copy);
     g_editor->execute(command_load);
     ASSERT_EQ(g_editor->tilesets().count(), 2);
     EXPECT_EQ(g_editor->current()->store().tile_count(), 2);
     EXPECT_FALSE(g_editor->current()->is_named());
-    chooser.calls = 0;
-    chooser.result = file_cancelled;
+    answer_files_with(copy, file_cancelled);
     g_editor->execute(command_save);
-    EXPECT_EQ(chooser.calls, 1);
-    EXPECT_EQ(chooser.last_kind, file_save_tileset);
+    EXPECT_EQ(asked.count, 1);
+    EXPECT_EQ(asked.last_kind, file_save_tileset);
 }
 
 TEST_F(EditorTest, TabsMakeTheirTilesetCurrentAndCloseFollowsTheListRules) {
@@ -183,9 +161,7 @@ TEST_F(EditorTest, NewTilesetDialogKeepsItsValuesAndCanResizeInstead) {
 
 TEST_F(EditorTest, ExportWritesASixteenBySixteenSheetAfterThePreview) {
     Temp_Dir dir;
-    Scripted_Chooser chooser;
-    chooser.path = (dir.path / "sheet.png").string();
-    chooser.install();
+    answer_files_with((dir.path / "sheet.png").string());
     Tile_Store& store = g_editor->current()->store();
     store.current_tile()->fill(Color(10, 200, 30));
     store.add_tile();
@@ -195,11 +171,11 @@ TEST_F(EditorTest, ExportWritesASixteenBySixteenSheetAfterThePreview) {
     Event_Script script;
     script.then([] { push_key(SDLK_ESCAPE); });  // the preview's Escape stops the export
     g_editor->execute(command_export);
-    EXPECT_EQ(chooser.calls, 0);
+    EXPECT_EQ(asked.count, 0);
 
     script.then([] { push_key(SDLK_RETURN); });
     g_editor->execute(command_export);
-    EXPECT_EQ(chooser.last_kind, file_save_bmp);
+    EXPECT_EQ(asked.last_kind, file_save_bmp);
     const std::string written = (dir.path / "sheet.bmp").string();
     SDL_Surface* sheet = SDL_LoadBMP(written.c_str());
     ASSERT_NE(sheet, nullptr) << "nothing written at " << written;

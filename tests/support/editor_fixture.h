@@ -15,6 +15,12 @@
 #include "support/headless.h"
 #include "ui/event_script.h"
 
+// The file dialogs a test answered: how many, and the kind of the last.
+struct File_Questions {
+    int count = 0;
+    int last_kind = -1;
+};
+
 // The real program with its first tileset made, fed events as its main loop
 // would feed them.
 class Editor_Fixture : public Headless {
@@ -56,11 +62,16 @@ protected:
         EXPECT_EQ(script.left(), 0u) << command << " showed no note";
         EXPECT_EQ(g_editor->current()->history().count(), records) << command;
     }
-    // Every file dialog from now on answers with this path.
-    static void answer_files_with(const std::string& path) {
-        set_file_chooser([path](int, const std::string&, std::string& chosen) {
+    // Every file dialog from now on answers with this path (or the given
+    // answer); the questions are counted from here.
+    static inline File_Questions asked;
+    static void answer_files_with(const std::string& path, int answer = file_chosen) {
+        asked = {};
+        set_file_chooser([path, answer](int kind, const std::string&, std::string& chosen) {
+            ++asked.count;
+            asked.last_kind = kind;
             chosen = path;
-            return int(file_chosen);
+            return answer;
         });
     }
 };

@@ -2,26 +2,7 @@
 
 #include <gtest/gtest.h>
 
-
 namespace {
-
-TEST(BoundedValue, ClampsOnEveryChangeAndTruncatesTowardsZero) {
-    Bounded_Value v(0.5, 0, 1);
-    v = 3;
-    EXPECT_EQ(v.value, 1);
-    v = -2;
-    v += 0.25;
-    EXPECT_EQ(v.value, 0.25);
-    Bounded_Value channel(static_cast<uint8_t>(200));
-    channel += 54.99;
-    EXPECT_EQ(channel.to_byte(), 254);
-    channel += 10;
-    EXPECT_EQ(channel.to_byte(), 255);
-    EXPECT_EQ(Bounded_Value(-1.9, -5, 5).to_int(), -1);
-    Bounded_Value target(0.5, 0, 1);
-    target = Bounded_Value(100, 0, 255);  // a copy takes the source's range
-    EXPECT_EQ(target.value, 100);
-}
 
 TEST(ChannelOperations, SaturateInsteadOfWrappingAndKeepAlpha) {
     uint8_t c = 5;

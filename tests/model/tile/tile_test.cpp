@@ -48,11 +48,10 @@ TEST(TileCopy, ResamplingBlendsOnlyNeighbouringColours) {
         flat.copy_into(flat_scaled);
         const Color corner = source.get_pixel(0, 0);
         EXPECT_EQ(scaled.get_pixel(0, 0), Color(corner.red, corner.green, corner.blue));
-        uint8_t low = 255, high = 0;
-        for (int i = 0; i < source.pixel_count(); ++i) {
-            low = std::min({low, source.pixels()[i].red});
-            high = std::max({high, source.pixels()[i].red});
-        }
+        const auto [lowest, highest] = std::minmax_element(
+            source.pixels(), source.pixels() + source.pixel_count(),
+            [](const Color& a, const Color& b) { return a.red < b.red; });
+        const uint8_t low = lowest->red, high = highest->red;
         for (int i = 0; i < scaled.pixel_count(); ++i) {
             ASSERT_GE(scaled.pixels()[i].red + 1, low);
             ASSERT_LE(scaled.pixels()[i].red, high);
