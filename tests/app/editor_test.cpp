@@ -36,12 +36,9 @@ TEST_F(EditorTest, KeysFollowTheModifierOrderAndModifiersAloneDoNothing) {
 
 TEST_F(EditorTest, EscapeOrTheWindowsCloseRequestThenYesQuitsAndCancelKeepsRunning) {
     Event_Script script;
-    for (int i = 0; i < 2; ++i) {
+    for (const auto& ask : {std::function<void()>([] { push_key(SDLK_ESCAPE); }), std::function<void()>(push_quit)}) {
         script.then([] { push_key(SDLK_ESCAPE); });  // the prompt's Escape cancels it
-        if (i == 0)
-            push_key(SDLK_ESCAPE);
-        else
-            push_quit();
+        ask();
         pump();
         EXPECT_FALSE(g_editor->quit_requested());
     }

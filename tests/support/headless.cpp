@@ -91,14 +91,12 @@ void Headless::push_motion(int x, int y, Uint32 buttons, float xrel, float yrel)
 }
 
 void Headless::push_quit() {
-    SDL_Event e{};
-    e.type = SDL_EVENT_QUIT;
+    SDL_Event e{SDL_EVENT_QUIT};
     SDL_PushEvent(&e);
 }
 
 void Headless::push_close_request() {
-    SDL_Event e{};
-    e.type = SDL_EVENT_WINDOW_CLOSE_REQUESTED;
+    SDL_Event e{SDL_EVENT_WINDOW_CLOSE_REQUESTED};
     e.window.windowID = window_id();
     SDL_PushEvent(&e);
 }

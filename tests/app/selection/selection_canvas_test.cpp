@@ -65,9 +65,6 @@ TEST_F(Selecting, ShiftAddsTheRightButtonRemovesAndAPlainDragReplaces) {
     EXPECT_TRUE(selected(11, 8));
     EXPECT_FALSE(selected(8, 11));
     EXPECT_FALSE(selected(12, 8));
-    const auto& radius = static_cast<const Location_Info&>(g_tool_options->row(tool_pages::row_radius));
-    EXPECT_EQ(radius.first(), 3);
-    EXPECT_EQ(radius.second(), 2);
 
     // The wand takes the area under the pointer.
     fill_tile(red);

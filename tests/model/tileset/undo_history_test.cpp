@@ -50,11 +50,6 @@ TEST_F(History, UndoAndRedoRestoreThePixelsAndNameTheStrokesTool) {
     EXPECT_EQ(tile().get_pixel(1, 1), Color(90, 90, 90));
     EXPECT_FALSE(history.redo(store, selection));
     EXPECT_EQ(history.command_to_redo(), -1);
-    // A new stroke after an undo drops the undone one.
-    history.undo(store, selection);
-    stroke(10);
-    EXPECT_FALSE(history.redo(store, selection));
-    EXPECT_EQ(history.count(), 3);
 }
 
 TEST_F(History, UndoBringsBackTheSelectionAndTheFloatingImage) {
