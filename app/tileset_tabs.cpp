@@ -21,6 +21,18 @@ int tab_width(Tileset_List& list, int index, int row_width) {
 }
 }  // namespace
 
+// A name too long for its tab is cut and ends in "..", but the modified
+// mark "*" always shows: it is what tells unsaved work apart.
+std::string Tileset_Tabs::tab_label(const std::string& display_name, int room) {
+    Text_Writer& t = writer();
+    if (t.measure(display_name.c_str()) <= room) return display_name;
+    const bool marked = !display_name.empty() && display_name.back() == '*';
+    const std::string mark = marked ? "*" : "";
+    std::string name = display_name.substr(0, display_name.size() - mark.size());
+    while (!name.empty() && t.measure((name + ".." + mark).c_str()) > room) name.pop_back();
+    return name + ".." + mark;
+}
+
 Rectangle Tileset_Tabs::tab_area(Tileset_List& list, int index) const {
     int x = area.x;
     for (int i = 0; i < index; ++i) x += tab_width(list, i, area.width) + 2;
@@ -35,13 +47,9 @@ void Tileset_Tabs::draw(Tileset_List& list) {
         if (r.x >= area.x + area.width) break;
         const bool current = &list.at(i) == list.current();
         w.bevel_fill(r, current ? ui_colors[ui_light_grey] : ui_colors[ui_grey_112]);
-        const std::string name = list.at(i).display_name();
-        // Cut the name to the tab, so neighbours never overlap.
-        int chars = int(name.size());
-        while (chars > 0 && t.measure_prefix(name.c_str(), chars) > r.width - 2 * padding) --chars;
         w.clip(Rectangle{r.x + 1, r.y + 1, r.width - 2, r.height - 2});
         t.set_cursor(r.x + padding, r.y + 2);
-        for (int c = 0; c < chars; ++c) t.put_char(name[size_t(c)]);
+        t.write(tab_label(list.at(i).display_name(), r.width - 2 * padding).c_str());
         w.end_clip();
     }
 }

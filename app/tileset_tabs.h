@@ -23,6 +23,8 @@ public:
     // Offers the click to the tabs; true when it made another tileset current.
     bool click(Tileset_List& list, int x, int y);
     Rectangle tab_area(Tileset_List& list, int index) const;
+    // What a tab of this much room for text shows of a display name.
+    static std::string tab_label(const std::string& display_name, int room);
 
 private:
     Rectangle area;

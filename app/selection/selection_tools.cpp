@@ -213,15 +213,26 @@ int Selection_Tools::paste() {
 }
 
 // A floating image leaves a copy where it stands and keeps floating; a
-// selection is copied into a floating image at its place, ready to be moved.
+// selection is copied into a floating image placed by the clone style: where
+// the selection stands ("Center clone to image"), at the tile's corner, or
+// resized to the tile at its corner.
 int Selection_Tools::clone() {
     Canvas_View& view = canvas();
+    const int style = g_options ? g_options->get(Options::clone_style) : Copy_Buffer::centre;
     if (const Tile* f = marks().floating_image()) {
         const SDL_Point at{marks().float_x(), marks().float_y()};
         floating::stamp_wrapped(*view.tile(), *f, at.x, at.y);
         view.tile()->update_texture();
-    } else if (!float_selection(false)) {
+    } else if (!marks().active()) {
         return refuse(clone_refused);
+    } else if (style == Copy_Buffer::centre) {
+        float_selection(false);
+    } else {
+        const std::unique_ptr<Tile> selected = selected_pixels(*view.tile(), *marks().mask());
+        if (!selected) return refuse(clone_refused);
+        const Placement p = place_image(*selected, view.tile()->width(), view.tile()->height(), style);
+        marks().clear();
+        marks().paste(*p.image, 0, 0, view.tile());
     }
     editor.select_tool(command_work_selection);
     return record(command_clone);

@@ -206,6 +206,7 @@ void Color_Editor::run(Color start) {
     rebuild = true;
     ctrl_held = false;
     Main_Window& w = *g_main_window;
+    bool close_asked = false;
     {
         const Backdrop_Layer layer(paint, this, area);
         SDL_Event event;
@@ -230,9 +231,11 @@ void Color_Editor::run(Color start) {
                 case SDL_EVENT_MOUSE_BUTTON_DOWN:
                     if (press(event.button.button, int(event.button.x), int(event.button.y))) open = false;
                     break;
-                // Closing the window closes the editor, as it closes a dialog.
+                // Closing the window closes the editor and goes on to the
+                // main window, which asks whether to quit: one close is enough.
                 case SDL_EVENT_QUIT:
                 case SDL_EVENT_WINDOW_CLOSE_REQUESTED:
+                    close_asked = true;
                     open = false;
                     break;
                 default:
@@ -241,5 +244,6 @@ void Color_Editor::run(Color start) {
         }
     }
     flush_events();
+    if (close_asked) push_quit_request();
     if (g_color_tools) g_color_tools->show_page(shown_page);
 }

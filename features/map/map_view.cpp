@@ -104,9 +104,12 @@ const std::vector<Seam>& Map_View::seam_list() {
 }
 
 Map_View::Outcome Map_View::run() {
+    close_asked = false;
     run_modal_layer(paint_view, this, view_area, [this](SDL_Event& event) { return handle(event); });
     editor.end_stroke();
     flush_events();
+    // The main window takes the close request on and asks whether to quit.
+    if (close_asked) push_quit_request();
     return Outcome{picked ? chosen : -1, editor.generation() != start_generation};
 }
 
@@ -114,6 +117,7 @@ bool Map_View::handle(const SDL_Event& event) {
     switch (event.type) {
         case SDL_EVENT_QUIT:
         case SDL_EVENT_WINDOW_CLOSE_REQUESTED:
+            close_asked = true;
             return false;
         case SDL_EVENT_KEY_DOWN: {
             const bool ctrl = (event.key.mod & SDL_KMOD_CTRL) != 0;
@@ -127,6 +131,8 @@ bool Map_View::handle(const SDL_Event& event) {
                 case SDLK_Z:
                     if (ctrl) push_button(button_undo);
                     break;
+                // Redo answers to the main window's Ctrl+R and to Ctrl+Y.
+                case SDLK_R:
                 case SDLK_Y:
                     if (ctrl) push_button(button_redo);
                     break;

@@ -19,7 +19,7 @@ class Tile_Store;
 // paints the chosen tile into cells (a drag paints a line of cells), fills
 // or erases, by the tool; the right button picks the tile under the pointer.
 // Escape, "Close", a quit or a close request close it. Keys: p paint, f fill,
-// e eraser, g grid, s seams, Ctrl+Z undo, Ctrl+Y redo.
+// e eraser, g grid, s seams, Ctrl+Z undo, Ctrl+R (as in the main window) or Ctrl+Y redo.
 class Map_View {
 public:
     enum Tool { tool_paint, tool_fill, tool_eraser };
@@ -84,6 +84,9 @@ private:
     bool grid = false;
     bool seams = false;
     bool stroking = false;
+    // The program's window was closed while this one was open: the main
+    // window is told once this one is gone.
+    bool close_asked = false;
     int last_column = -1;
     int last_row = -1;
     int hover_column = -1;

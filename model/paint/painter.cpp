@@ -117,7 +117,7 @@ void Painter::shape(int kind, int ax, int ay, int cx, int cy, Color primary, Col
 }
 
 void Painter::fill(Distance_Grid& grid, int x, int y, Color c, Tile& source, Tile& destination,
-                   bool ignore_selection) {
+                   bool ignore_selection, bool compare_alpha) {
     const Color seed = source.get_pixel(x, y);
     const int w = source.width();
     const int h = source.height();
@@ -126,7 +126,8 @@ void Painter::fill(Distance_Grid& grid, int x, int y, Color c, Tile& source, Til
     for (int row = 0; row < h; ++row)
         for (int column = 0; column < w; ++column) {
             const Color p = pixels[row * w + column];
-            const bool same = p.blue == seed.blue && p.green == seed.green && p.red == seed.red;
+            const bool same = p.blue == seed.blue && p.green == seed.green && p.red == seed.red &&
+                              (!compare_alpha || p.alpha == seed.alpha);
             const bool inside = ignore_selection || allows(column, row);
             grid.set(column, row, same && inside ? Distance_Grid::open : Distance_Grid::wall);
         }

@@ -42,12 +42,12 @@ public:
     // opposite corners for rectangles, centre and radii for ellipses.
     void shape(int kind, int ax, int ay, int cx, int cy, Color primary, Color secondary);
 
-    // The 4-connected area of the seed's blue, green and red in source
-    // (alpha not compared), painted into source ("Flood fill") or into
+    // The 4-connected area of the seed's blue, green and red in source (alpha
+    // compared only when asked), painted into source ("Flood fill") or into
     // destination when the selection is ignored ("Wand selector"), with
     // clipping off. The seed is always painted.
-    void fill(Distance_Grid& grid, int x, int y, Color c, Tile& source, Tile& destination,
-              bool ignore_selection);
+    void fill(Distance_Grid& grid, int x, int y, Color c, Tile& source, Tile& destination, bool ignore_selection,
+              bool compare_alpha = false);
 
 private:
     Tile* target = nullptr;

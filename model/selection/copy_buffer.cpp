@@ -64,12 +64,16 @@ bool Copy_Buffer::make_current(int index) {
 }
 
 Placement Copy_Buffer::place(int tile_width, int tile_height, int style) const {
-    Placement p;
     const Tile* image = current();
-    if (!image) return p;
+    return image ? place_image(*image, tile_width, tile_height, style) : Placement{};
+}
+
+Placement place_image(const Tile& source, int tile_width, int tile_height, int style) {
+    Placement p;
+    const Tile* image = &source;
     // Nearest neighbour: a pixel artist's image keeps its own colours and its
     // transparency, where blending would invent colours and fill the holes.
-    if (style == resize && !(image->width() == tile_width && image->height() == tile_height)) {
+    if (style == Copy_Buffer::resize && !(image->width() == tile_width && image->height() == tile_height)) {
         p.image = std::make_unique<Tile>(tile_width, tile_height);
         for (int y = 0; y < tile_height; ++y)
             for (int x = 0; x < tile_width; ++x)
@@ -79,7 +83,7 @@ Placement Copy_Buffer::place(int tile_width, int tile_height, int style) const {
         return p;
     }
     p.image = copy_of(*image);
-    if (style == centre) {
+    if (style == Copy_Buffer::centre) {
         p.x = (tile_width - image->width()) / 2;
         p.y = (tile_height - image->height()) / 2;
     }

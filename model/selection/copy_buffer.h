@@ -20,6 +20,11 @@ struct Placement {
     int y = 0;
 };
 
+// An image placed on a tile of the given size by the clone style: centred (a
+// larger image overhangs evenly), at the top-left corner, or scaled to the
+// tile's size, pixel by nearest pixel.
+Placement place_image(const Tile& image, int tile_width, int tile_height, int style);
+
 // The images copied from the canvas. The newest is the current one that
 // "Paste" floats; the older ones stay as "Previous copies" and any of them can
 // be made current again. The buffer belongs to no tileset, so a copy from one
@@ -51,10 +56,8 @@ public:
     // Makes an older copy current again; false for an index out of range.
     bool make_current(int index);
 
-    // The current image placed on a tile of the given size by the clone style:
-    // centred (a larger image overhangs evenly), at the top-left corner, or
-    // scaled to the tile's size, pixel by nearest pixel. No placement when the
-    // buffer is empty.
+    // The current image placed by the clone style (place_image); no placement
+    // when the buffer is empty.
     Placement place(int tile_width, int tile_height, int style) const;
     // Where the current image was taken from: its place (x, y) on a tile of
     // the size (width, height); empty when the buffer is.

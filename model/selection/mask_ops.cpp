@@ -53,9 +53,11 @@ void apply_ellipse(Tile& mask, int cx, int cy, int rx, int ry, bool add) {
 
 void apply_wand(Tile& mask, const Tile& tile, Distance_Grid& grid, int x, int y, bool add) {
     if (tile.is_outside(x, y) || !tile.same_size(mask)) return;
-    // The fill reads its source as a writable tile but writes only the destination here.
+    // The fill reads its source as a writable tile but writes only the
+    // destination here. Unlike the fill, the wand compares alpha too: a
+    // cleared background (transparent black) is not the black of an outline.
     Painter p = mask_painter(mask);
-    p.fill(grid, x, y, add ? selected : unselected, const_cast<Tile&>(tile), mask, true);
+    p.fill(grid, x, y, add ? selected : unselected, const_cast<Tile&>(tile), mask, true, true);
 }
 
 void invert(Tile& mask) {

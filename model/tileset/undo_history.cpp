@@ -1,6 +1,9 @@
 #include "model/tileset/undo_history.h"
 
+#include <algorithm>
+
 #include "model/core/commands.h"
+#include "model/tileset/undo_node.h"
 #include "model/tile/tile_store.h"
 #include "model/selection/tile_selection.h"
 
@@ -43,10 +46,22 @@ bool Undo_History::record(int command, Tile_Store& store, const Tile_Selection* 
     if (group != group_image && group != group_selection) return false;
     const bool with_mask = selection && (group == group_selection || selection->active());
     const Tile* mask = with_mask ? selection->mask() : nullptr;
-    // "Fill" and "Clear" are selection commands that change pixels.
-    const bool content = group == group_image || command == command_fill || command == command_clear;
+    // "Fill" and "Clear" are selection commands that change pixels. A step
+    // that left every pixel of the tile as the state before it showed them
+    // (a deselect with nothing floating) changes no contents.
+    const bool content =
+        (group == group_image || command == command_fill || command == command_clear) && !shows_same_pixels(store);
     push(std::make_unique<ImageUndoNode>(command, index, *tile, mask, area, area_x, area_y), content);
     return content;
+}
+
+bool Undo_History::shows_same_pixels(Tile_Store& store) const {
+    if (current < 0) return false;
+    const auto* shown = dynamic_cast<const ImageUndoNode*>(records[size_t(current)].get());
+    const Tile* tile = store.current_tile();
+    if (!shown || !tile || shown->tile_index() != store.current_index() || shown->floating_area()) return false;
+    const Tile& before = shown->tile();
+    return before.same_size(*tile) && std::equal(tile->pixels(), tile->pixels() + tile->pixel_count(), before.pixels());
 }
 
 bool Undo_History::record_if_inverse(int command, Tile_Store& store, const Tile_Selection* selection) {

@@ -57,6 +57,9 @@ public:
     const Undo_Node& at(int index) const { return *records[size_t(index)]; }
 
 private:
+    // The current tile shows the pixels of the state shown, nothing floating.
+    bool shows_same_pixels(Tile_Store& store) const;
+
     int32_t maximum;
     int current = -1;
     // The stamp of an empty history; a new one after every clear, since the

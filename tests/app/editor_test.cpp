@@ -117,6 +117,16 @@ TEST_F(EditorTest, TabsMakeTheirTilesetCurrentAndCloseFollowsTheListRules) {
     ASSERT_EQ(e.tilesets().count(), 2);
     EXPECT_EQ(e.current()->path().full, "untitled3.wst");  // the one that followed
     EXPECT_EQ(e.canvas().tile()->width(), 32);
+
+    // Six tabs and more: a long name is cut, the modified mark never.
+    while (e.tilesets().count() < 8) ASSERT_TRUE(e.tilesets().new_tileset(16, 16));
+    e.execute(command_add_new_tile);
+    const int last = e.tilesets().count() - 1;
+    const Rectangle r = e.tabs().tab_area(e.tilesets(), last);
+    const std::string label = Tileset_Tabs::tab_label(e.current()->display_name(), r.width - 2 * Tileset_Tabs::padding);
+    EXPECT_EQ(e.current()->display_name(), "untitled9*");
+    EXPECT_LT(label.size(), e.current()->display_name().size());
+    EXPECT_EQ(label.back(), '*') << label;
 }
 
 TEST_F(EditorTest, NewTilesetDialogKeepsItsValuesAndCanResizeInstead) {

@@ -263,8 +263,15 @@ TEST_F(SeamsTest, TheModifiedMarkFollowsTheHistoryBackToTheSavedState) {
     EXPECT_STREQ(SDL_GetWindowTitle(g_main_window->window()), "Mosswick 0.88 - marked");
     run(command_redo);
     EXPECT_TRUE(tileset().is_modified());
-    // Choosing another tile changes nothing that is saved.
+    // Choosing another tile, selecting and deselecting change nothing that is
+    // saved, nor does undoing them.
     run(command_undo);
     run(command_next_tile);
+    g_editor->canvas().tile_selection().mask()->fill(Color(255, 255, 255));
+    g_editor->canvas().tile_selection().set_active(true);
+    g_editor->undo().record(command_rectangle_selector);
+    run(command_deselect);
+    EXPECT_FALSE(tileset().is_modified());
+    run(command_undo);
     EXPECT_FALSE(tileset().is_modified());
 }

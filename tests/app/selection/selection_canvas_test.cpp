@@ -10,6 +10,8 @@
 #include "model/selection/mask_ops.h"
 #include "ui/info_panes.h"
 #include "ui/options.h"
+#include "ui/dialog.h"
+#include "ui/textlist_dialog_item.h"
 #include "ui/ui_globals.h"
 
 namespace {
@@ -131,6 +133,20 @@ TEST_F(Selecting, EveryCommandIsRecordedWithItsMaskAndRefusalsSayWhy) {
     g_editor->run_command(command_clear);  // throws the floating image away
     EXPECT_EQ(view().tile_selection().floating_image(), nullptr);
     EXPECT_EQ(tile().get_pixel(2, 2), blue);
+
+    // The clone style places a clone: at the tile's corner, or resized to the tile.
+    for (int style : {1, 2}) {
+        static_cast<Textlist_Dialog_Item*>(g_options->dialog().find(131))->choice.value = style;
+        g_options->load();
+        use_tool(command_rectangle_selector);
+        stroke({{2, 2}, {3, 3}});
+        g_editor->run_command(command_clone);
+        const Tile_Selection& marks = view().tile_selection();
+        ASSERT_NE(marks.floating_image(), nullptr);
+        EXPECT_EQ(std::make_pair(marks.float_x(), marks.float_y()), std::make_pair(0, 0)) << style;
+        EXPECT_EQ(marks.floating_image()->width(), style == 2 ? tile().width() : 2) << style;
+        g_editor->run_command(command_clear);
+    }
 }
 
 TEST_F(Selecting, WorkSelectionLiftsCopiesClonesAndKeepsByItsMode) {

@@ -91,14 +91,18 @@ TEST_F(MapViewTest, PaintFillPickSeamsAndUndoThroughTheEditorsCommand) {
     EXPECT_EQ(store().current_index(), 1) << "the picked tile comes back current";
     EXPECT_TRUE(tileset().is_modified());
 
-    // Ctrl+Y in a new session redoes the fill: the history stays with the map.
+    // Ctrl+R, the main window's redo key, in a new session redoes the fill:
+    // the history stays with the map. Closing the program's window closes the
+    // map window and asks at once whether to quit.
     Event_Script again;
     again.then([] {
-        push_key(SDLK_Y, SDL_KMOD_CTRL);
-        push_key(SDLK_ESCAPE);
-    });
+        push_key(SDLK_R, SDL_KMOD_CTRL);
+        push_close_request();
+    }).then([] { push_key(SDLK_Y); });
     EXPECT_EQ(g_editor->execute(command_map_editor), -1) << "nothing picked: nothing to record";
     EXPECT_EQ(map.at(7, 9), 0);
+    pump();
+    EXPECT_TRUE(g_editor->quit_requested());
 }
 
 TEST_F(MapViewTest, CellsShowTheirTilesCurrentPixelsWithGridAndEraser) {

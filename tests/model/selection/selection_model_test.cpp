@@ -48,7 +48,7 @@ TEST(SelectionMask, TheWandTakesTheFourConnectedAreaAndNotTouchingCorners) {
     for (int y = 0; y < 3; ++y)
         for (int x = 0; x < 3; ++x) tile.set_pixel(x, y, Color(255, 0, 0));
     for (int y = 3; y < 6; ++y)
-        for (int x = 3; x < 6; ++x) tile.set_pixel(x, y, Color(255, 0, 0, 40));  // alpha is not compared
+        for (int x = 3; x < 6; ++x) tile.set_pixel(x, y, Color(255, 0, 0, 40));
     Tile mask(6, 6);
     mask_ops::clear(mask);
     Distance_Grid grid;
@@ -62,6 +62,12 @@ TEST(SelectionMask, TheWandTakesTheFourConnectedAreaAndNotTouchingCorners) {
     EXPECT_TRUE(mask_ops::is_selected(mask, 3, 3));
     mask_ops::apply_wand(mask, tile, grid, 6, 0, true);  // outside: nothing
     EXPECT_EQ(selected_count(mask), 9);
+    // Alpha counts: a cleared background is not the black outline across it.
+    tile.fill(Color(0, 0, 0, 0));
+    for (int y = 0; y < 6; ++y) tile.set_pixel(2, y, Color(0, 0, 0));
+    mask_ops::clear(mask);
+    mask_ops::apply_wand(mask, tile, grid, 0, 0, true);
+    EXPECT_EQ(mask_ops::bounds(mask), (Rectangle{0, 0, 2, 6}));
 }
 
 TEST(CopyBuffer, CopiesTheBoundingBoxWithUnselectedPixelsTransparentAndKeepsEarlierCopies) {
