@@ -226,6 +226,10 @@ Cell Canvas_View::press(Stroke_Action& action, int button, float x, float y) {
     const bool hidden = action.hides_cursor();
     if (hidden) g_main_window->show_cursor(false);
 
+    auto to_tile = [this](float px, float py) {
+        return SDL_FPoint{(px - float(origin_x)) / float(cell_size), (py - float(origin_y)) / float(cell_size)};
+    };
+    stroke_pointer = to_tile(x, y);
     Cell start = cell_at(x, y);
     action.begin(*this, start, button);
     action.apply(*this, start, start, button);
@@ -235,9 +239,15 @@ Cell Canvas_View::press(Stroke_Action& action, int button, float x, float y) {
     for (;;) {
         if (repaint) repaint();
         if (!wait_event(event)) break;
-        if (event.type == SDL_EVENT_MOUSE_BUTTON_UP || event.type == SDL_EVENT_QUIT) break;
+        if (event.type == SDL_EVENT_MOUSE_BUTTON_UP) {
+            if (pointer_moved) pointer_moved(event.button.x, event.button.y);
+            break;
+        }
+        if (event.type == SDL_EVENT_QUIT) break;
         if (event.type != SDL_EVENT_MOUSE_MOTION) continue;
         current = cell_at(event.motion.x, event.motion.y);
+        stroke_pointer = to_tile(event.motion.x, event.motion.y);
+        if (pointer_moved) pointer_moved(event.motion.x, event.motion.y);
         if (action.keeps_pointer_on_tile()) keep_pointer_on_tile(event.motion.x, event.motion.y);
         if (!(current == start)) dragged = true;
         if (backup) backup->copy_into(*shown);

@@ -63,6 +63,10 @@ public:
 
     bool contains(float x, float y) const { return view.contains(x, y); }
     Cell cell_at(float x, float y) const;
+    // Where the pointer stood at the last event of the stroke, in tile pixels
+    // with fractions (the cell's corner is whole): finer than its cell, for
+    // the tools that measure angles.
+    SDL_FPoint stroke_point() const { return stroke_pointer; }
     const Rectangle& view_rect() const { return view; }
     SDL_Point origin() const { return SDL_Point{origin_x, origin_y}; }
     int extent_width() const { return extent_w; }
@@ -78,8 +82,12 @@ public:
     std::function<void()> repaint;
     // The tool bar's seam button for an offset that was ended (true: horizontal).
     std::function<void(bool horizontal)> seam_released;
+    // Where the pointer went during a stroke and where it was released, so
+    // the brush outline and the read-out follow it; set by the editor.
+    std::function<void(float x, float y)> pointer_moved;
 
 private:
+    SDL_FPoint stroke_pointer{0, 0};
     Canvas_Picture::Frame frame() const;
     void draw_cell_marks(Main_Window& window, int tx, int ty, int px, int py);
     void draw_edges(Main_Window& window, const Tile& m, int tx, int ty, int px, int py, bool active);

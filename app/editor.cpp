@@ -96,6 +96,11 @@ Editor::Editor()
         g_main_window->present();
     };
     canvas_view->seam_released = [this](bool horizontal) { tool_bar->set_seam(horizontal, false); };
+    canvas_view->pointer_moved = [this](float x, float y) {
+        pointer_x = x;
+        pointer_y = y;
+        follow_pointer();
+    };
     open.set_window_title = [](const std::string& name) { g_main_window->set_title(name); };
     open.confirm_close = [] {
         return g_message_box->ask("Close", "Current tileset is not saved. Close it anyway?\r(Progress will be lost.)");

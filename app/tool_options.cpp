@@ -3,6 +3,7 @@
 #include "features/brushpad/brush_pad_pane.h"
 #include "app/canvas_view.h"
 #include "features/color/color_readout.h"
+#include "model/paint/brush_stamp.h"
 #include "model/core/commands.h"
 #include "app/editor.h"
 #include "platform/globals.h"
@@ -290,10 +291,35 @@ void outline_clipped(const Rectangle& r, const Rectangle& view, Color c) {
 }
 }  // namespace
 
+// The stamp under the pointer, pad brushes included: every cell that one of
+// its pixels would paint is outlined, placed by its hotspot as the stroke
+// places it, so the user sees what a press will stamp.
+void Tool_Options_Pane::draw_stamp_outline(const Canvas_View& canvas, float x, float y) const {
+    const Tile& image = stamp_image();
+    Brush_Stamp stamp(image, stamp_mode());
+    const SDL_Point hot = stamp_hotspot();
+    stamp.set_hotspot(hot.x, hot.y);
+    const int s = canvas.pixel_size();
+    const SDL_Point o = canvas.origin();
+    const Cell cell = canvas.cell_at(x, y);
+    const int left = o.x + (cell.x - stamp.hot_x()) * s;
+    const int top = o.y + (cell.y - stamp.hot_y()) * s;
+    Color c = tool_color(0);
+    c.alpha = 200;
+    for (int by = 0; by < image.height(); ++by)
+        for (int bx = 0; bx < image.width(); ++bx)
+            if (image.alpha(bx, by) > 0) outline_clipped(Rectangle{left + bx * s, top + by * s, s, s}, canvas.view_rect(), c);
+}
+
 // The brush under the pointer: its pixels outlined on the cells it would
 // paint (the precise brush) and a translucent shadow following the pointer.
 void Tool_Options_Pane::draw_overlays(const Canvas_View& canvas, float x, float y) {
-    if (!pages[current_page].brush || !canvas.tile() || !canvas.contains(x, y)) return;
+    if (!canvas.tile() || !canvas.contains(x, y)) return;
+    if (current_tool == command_stamp_brush) {
+        draw_stamp_outline(canvas, x, y);
+        return;
+    }
+    if (!pages[current_page].brush) return;
     const Brush& b = brush();
     const int mode = commands::brush_mode(current_tool);
     const int precise = g_options ? g_options->get(Options::precise_brush) : 2;

@@ -72,6 +72,8 @@ public:
     // What the stamp brush draws with: the temporary brush, else the pad's
     // selected brush, else the built-in brush; a negative hotspot is the middle.
     const Tile& stamp_image() const;
+    // The stamp's outline under the pointer on the canvas.
+    void draw_stamp_outline(const Canvas_View& canvas, float x, float y) const;
     SDL_Point stamp_hotspot() const;
     // Size 1 to 6 of the current shape, kept in the current tool's slot.
     void select_brush_size(int size);

@@ -154,11 +154,11 @@ void Work_Stroke::apply(Canvas_View& view, Cell from, Cell to, int button) {
 
 void Scroll_Stroke::begin(Canvas_View& view, Cell& start, int button) {
     (void)view;
-    (void)start;
     (void)button;
     total_x = 0;
     total_y = 0;
     show(tools, Readout::offset, 0, 0);
+    show(tools, Readout::location, start.x, start.y);
 }
 
 void Scroll_Stroke::apply(Canvas_View& view, Cell from, Cell to, int button) {
@@ -166,6 +166,7 @@ void Scroll_Stroke::apply(Canvas_View& view, Cell from, Cell to, int button) {
     Tile* tile = view.tile();
     const int dx = to.x - from.x;
     const int dy = to.y - from.y;
+    show(tools, Readout::location, to.x, to.y);
     if (!tile || (dx == 0 && dy == 0)) return;
     if (view.tile_selection().float_pending()) {
         const SDL_Point at{view.tile_selection().float_x(), view.tile_selection().float_y()};
@@ -183,7 +184,9 @@ void Scroll_Stroke::apply(Canvas_View& view, Cell from, Cell to, int button) {
 Rotate_Stroke::Rotate_Stroke(Selection_Tools& tools) : tools(tools) {}
 Rotate_Stroke::~Rotate_Stroke() = default;
 
-double Rotate_Stroke::angle_to(Cell c) const { return std::atan2(c.y - centre_y, c.x - centre_x); }
+// Measured from the pointer itself, not its cell: cells would put each end of
+// a clean quarter turn a few degrees off, unequally.
+double Rotate_Stroke::angle_to(SDL_FPoint p) const { return std::atan2(p.y - centre_y, p.x - centre_x); }
 
 void Rotate_Stroke::begin(Canvas_View& view, Cell& start, int button) {
     (void)button;
@@ -193,9 +196,11 @@ void Rotate_Stroke::begin(Canvas_View& view, Cell& start, int button) {
     source = pixels_of(*tile);
     source_mask = view.tile_selection().active() ? pixels_of(*view.tile_selection().mask()) : nullptr;
     const Rectangle box = source_mask ? mask_ops::bounds(*source_mask) : Rectangle{0, 0, tile->width(), tile->height()};
-    centre_x = box.x + (box.width - 1) / 2.0;
-    centre_y = box.y + (box.height - 1) / 2.0;
-    start_angle = angle_to(start);
+    (void)start;
+    // The middle of the box in tile pixels (cell corners are whole).
+    centre_x = box.x + box.width / 2.0;
+    centre_y = box.y + box.height / 2.0;
+    start_angle = angle_to(view.stroke_point());
     show(tools, Readout::degrees, 0);
 }
 
@@ -205,7 +210,8 @@ void Rotate_Stroke::apply(Canvas_View& view, Cell from, Cell to, int button) {
     Tile* tile = view.tile();
     if (!tile || !source) return;
     // Rows grow downward, so a growing angle turns clockwise, as "Rotate" does.
-    double degrees = (angle_to(to) - start_angle) * 180.0 / std::numbers::pi;
+    (void)to;
+    double degrees = (angle_to(view.stroke_point()) - start_angle) * 180.0 / std::numbers::pi;
     if (degrees > 180) degrees -= 360;
     if (degrees <= -180) degrees += 360;
     rotate_nearest(*source, *tile, degrees, source_mask.get());

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <SDL3/SDL.h>
+
 #include <memory>
 
 #include "app/stroke_action.h"
@@ -119,7 +121,7 @@ public:
     void finish(Canvas_View& view, Cell start, Cell end, int button, bool dragged) override;
 
 private:
-    double angle_to(Cell c) const;
+    double angle_to(SDL_FPoint p) const;
 
     Selection_Tools& tools;
     std::unique_ptr<Tile> source;

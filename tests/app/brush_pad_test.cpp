@@ -104,6 +104,23 @@ TEST_F(BrushPad, APadBrushStampsAtItsHotspotWithBothButtons) {
     ASSERT_TRUE(g_editor->undo().undo());
     stroke({{5, 5}}, SDL_BUTTON_RIGHT);
     expect_brush_at(5, 4, yellow, yellow, yellow, yellow);
+    ASSERT_TRUE(g_editor->undo().undo());
+
+    // Under the pointer the stamp shows its outline, placed by the hotspot:
+    // the edge of each cell it would paint is drawn, a clear one's is not.
+    const SDL_Point o = g_editor->canvas().origin();
+    const int s = g_editor->canvas().pixel_size();
+    auto edge_of = [&](int tx, int ty) { return read_pixel(o.x + tx * s, o.y + ty * s + s / 2); };
+    push_motion(5, 5);
+    pump();
+    g_editor->repaint(false);
+    const Color painted_cell = edge_of(5, 4), clear_cell = edge_of(6, 4);
+    const SDL_Point p = cell_centre(5, 5);
+    push_motion(p.x, p.y);
+    pump();
+    g_editor->repaint(false);
+    EXPECT_NE(edge_of(5, 4), painted_cell);
+    EXPECT_EQ(edge_of(6, 4), clear_cell);
 }
 
 TEST_F(BrushPad, UseAsBrushMoveToPadAndDeleteBrushWithTheirRefusals) {

@@ -217,4 +217,13 @@ TEST_F(EditorTest, ThePositionReadoutFollowsThePointerOverTheTileOnly) {
     push_motion(1000, 600);
     pump();
     EXPECT_FALSE(readout.visible());
+
+    // During a stroke and after its release the read-out follows the pointer.
+    const SDL_Point q = cell_centre(9, 4);
+    Event_Script script;
+    script.then([q] { push_motion(q.x, q.y, SDL_BUTTON_LMASK); }).then([q] { push_button(q.x, q.y, false); });
+    push_button(p.x, p.y, true);
+    pump();
+    ASSERT_TRUE(readout.visible());
+    EXPECT_EQ(std::make_pair(readout.pixel_x(), readout.pixel_y()), std::make_pair(9, 4));
 }

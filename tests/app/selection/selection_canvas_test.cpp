@@ -212,6 +212,22 @@ TEST_F(Selecting, ScrollDragWrapsAndFreehandRotateStartsFromThePressEveryMove) {
     EXPECT_EQ(degrees.value(), 90);
     undo();
     EXPECT_EQ(tile().get_pixel(20, 11), blue);
+    // Measured from the pointer, not its cell: from the middle of the right
+    // edge to the middle of the bottom edge is a quarter turn, read as 90.
+    const SDL_Point o = view().origin();
+    const int s = view().pixel_size();
+    Event_Script script;
+    script.then([=] { push_motion(o.x + 12 * s, o.y + 47 * s / 2, SDL_BUTTON_LMASK); }).then([=] {
+        push_button(o.x + 12 * s, o.y + 47 * s / 2, false);
+    });
+    push_button(o.x + 47 * s / 2, o.y + 12 * s, true);
+    pump();
+    EXPECT_EQ(degrees.value(), 90);
+    // The Scroll page's location follows the pointer.
+    use_tool(command_scroll);
+    stroke({{5, 5}, {7, 9}});
+    const auto& location = static_cast<const Location_Info&>(g_tool_options->row(tool_pages::row_location));
+    EXPECT_EQ(std::make_pair(location.first(), location.second()), std::make_pair(7, 9));
 }
 
 TEST_F(Selecting, AnotherTileClearsTheSelection) {
