@@ -6,6 +6,7 @@
 #include "app/canvas_view.h"
 #include "app/file_commands.h"
 #include "app/tile_commands.h"
+#include "model/selection/floating.h"
 #include "model/core/commands.h"
 #include "platform/frame_cache.h"
 #include "platform/globals.h"
@@ -236,7 +237,7 @@ void Editor::repaint(bool present) {
     frame.next_group();
     tool_bar->draw();
     frame.next_group();
-    if (g_message_box) g_message_box->preview().draw_tile(canvas_view->tile());
+    if (g_message_box) g_message_box->preview().draw_tile(tile_for_preview());
     frame.next_group();
     undo_control->draw_meter();
     frame.next_group();
@@ -400,6 +401,19 @@ void Editor::pan_loop() {
         pointer_y = event.motion.y;
     }
     flush_events();
+}
+
+// The tile as it will be when a floating image is put down, so the preview
+// shows no hole where a lifted image came from; kept between repaints.
+const Tile* Editor::tile_for_preview() {
+    const Tile* tile = canvas_view->tile();
+    const Tile_Selection& marks = open.selection();
+    const Tile* image = marks.floating_image();
+    if (!tile || !image || !marks.float_pending()) return tile;
+    if (!preview_tile || !preview_tile->same_size(*tile)) preview_tile = std::make_unique<Tile>(tile->width(), tile->height());
+    tile->copy_into(*preview_tile);
+    floating::stamp_wrapped(*preview_tile, *image, marks.float_x(), marks.float_y());
+    return preview_tile.get();
 }
 
 // Over the tile the readout follows the pointer; elsewhere it is hidden.

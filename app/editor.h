@@ -99,6 +99,7 @@ private:
     void pan_loop();
     void zoom(int direction);
     void follow_pointer();
+    const Tile* tile_for_preview();
     void context_info();
     void show_unhandled(int command);
     int move_to_pad();
@@ -118,6 +119,7 @@ private:
     std::unique_ptr<Canvas_View> canvas_view;
     std::unique_ptr<Tileset_Tabs> tileset_tabs;
     std::unique_ptr<Stroke_Change> stroke_change;
+    std::unique_ptr<Tile> preview_tile;
     Position_Readout readout;
     Stroke_Action* strokes[command_count][stroke_variants] = {};
     std::unique_ptr<Drawing_Tools> drawing_tools;

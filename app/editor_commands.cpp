@@ -132,6 +132,9 @@ int Editor::execute(int command) {
                     refuse("Nothing selected to use as brush.");
                     return -1;
                 }
+                // The selection would clip every stamp to where the brush came
+                // from: it goes (a recorded deselect), so the brush stamps anywhere.
+                selection_tools->execute(command_deselect);
                 break;
             case command_move_to_pad:
                 if (move_to_pad() == command_refused) return -1;

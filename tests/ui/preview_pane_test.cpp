@@ -1,6 +1,8 @@
 // The "Preview" pane: the current tile repeated at its real size.
 #include "ui/preview_pane.h"
 
+#include "app/selection/selection_tools.h"
+
 #include "support/editor_fixture.h"
 #include "platform/frame_cache.h"
 #include "ui/message_box.h"
@@ -30,4 +32,21 @@ TEST_F(PreviewTest, AStrokeAndAnUndoShowInEveryRepeatAtOnce) {
     key(SDLK_Z, SDL_KMOD_CTRL);
     g_editor->repaint(false);
     EXPECT_EQ(read_pixel(area.x + 32, area.y + 30), Color(0, 0, 0));
+}
+
+// While a lifted image floats, the preview shows the tile as it will be when
+// the image is put down: the image where it floats, no hole left behind it.
+TEST_F(PreviewTest, AFloatingImageShowsWhereItFloats) {
+    const Color red(250, 20, 30);
+    tile().set_pixel(3, 3, red);
+    Tile_Selection& marks = g_editor->canvas().tile_selection();
+    marks.mask()->set_pixel(3, 3, Color(255, 255, 255));
+    marks.set_active(true);
+    ASSERT_TRUE(g_editor->selection().float_selection(true));
+    marks.move_float(10, 12);
+    g_editor->repaint(false);
+    const Rectangle area = g_message_box->preview().picture_area();
+    EXPECT_EQ(read_pixel(area.x + 10, area.y + 12), red);
+    EXPECT_NE(read_pixel(area.x + 3, area.y + 3), red);
+    EXPECT_EQ(tile().get_pixel(10, 12), Color(0, 0, 0)) << "still floating, not put down";
 }
