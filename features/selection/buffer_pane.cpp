@@ -16,8 +16,10 @@ constexpr int thumbnails_body =
     Buffer_Pane::thumbnail_rows * Buffer_Pane::thumbnail_step + Pane::inset_top + Pane::inset_bottom - Pane::header_height;
 
 // The image as large as it fits in the box, by a whole factor when it is
-// smaller (its pixels stay square and sharp), centred, over dark grey so
-// that its transparent pixels show.
+// smaller (its pixels stay square and sharp), centred. The box is dark grey
+// and the image's own area light grey beneath it, so its transparent pixels
+// show, and a copy that is all transparent still shows its size instead of
+// looking like an empty slot.
 void draw_fitted(Tile& image, const Rectangle& box) {
     g_main_window->fill_rect(box, ui_colors[ui_grey_101]);
     Tile_Texture* texture = image.texture();
@@ -33,6 +35,8 @@ void draw_fitted(Tile& image, const Rectangle& box) {
     } else {
         w = std::max(1, image.width() * box.height / image.height());
     }
+    g_main_window->fill_rect(Rectangle{box.x + (box.width - w) / 2, box.y + (box.height - h) / 2, w, h},
+                             ui_colors[ui_grey_169]);
     texture->draw_scaled(box.x + (box.width - w) / 2, box.y + (box.height - h) / 2, w, h);
 }
 }  // namespace

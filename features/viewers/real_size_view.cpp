@@ -107,7 +107,8 @@ void Real_Size_View::draw() {
     pane.draw();
     const Rectangle p = picture();
     image->draw_at(p.x, p.y);
-    w.clip(p);
+    // A pixel of margin, so a frame on the first row or column keeps its outer edge.
+    w.clip(Rectangle{p.x - 1, p.y - 1, p.width + 2, p.height + 2});
     auto outline = [&w](const Rectangle& r, Color c) {
         if (r.empty()) return;
         const int left = r.x - 1;

@@ -7,6 +7,8 @@
 #include "app/undo_control.h"
 #include "model/tile/transforms.h"
 #include "app/selection/selection_tools.h"
+#include "features/selection/buffer_pane.h"
+#include "platform/ui_colors.h"
 #include "model/selection/mask_ops.h"
 #include "ui/info_panes.h"
 #include "ui/options.h"
@@ -260,4 +262,19 @@ TEST_F(Selecting, AFloatingImageShowsWrappedAndBlendedAndMovesWithoutATrace) {
     EXPECT_EQ(on_screen(0, 3), untouched);
     EXPECT_EQ(on_screen(4, 5), red);
     EXPECT_EQ(tile().get_pixel(4, 5), Color(0, 0, 0)) << "floating, not stamped";
+}
+
+// A copy that is all transparent shows its size in the copy buffer pane: its
+// area is light grey over the box's dark grey.
+TEST_F(Selecting, AClearCopyShowsItsSizeInTheBuffer) {
+    fill_tile(Color(0, 0, 0, 0));
+    use_tool(command_rectangle_selector);
+    stroke({{0, 0}, {3, 3}});
+    key(SDLK_C, SDL_KMOD_CTRL);
+    stroke({{0, 0}, {1, 1}});
+    key(SDLK_C, SDL_KMOD_CTRL);
+    use_tool(command_work_selection);
+    g_editor->repaint(true);
+    const Rectangle copy = g_tool_options->buffer_pane().thumbnail(1);
+    EXPECT_EQ(read_pixel(copy.x + copy.width / 2, copy.y + copy.height / 2), ui_colors[ui_grey_169]);
 }

@@ -2,7 +2,10 @@
 
 #include "support/editor_fixture.h"
 #include "ui/options.h"
+#include "app/undo_control.h"
 #include "features/viewers/real_size_view.h"
+#include "platform/text_writer.h"
+#include "platform/ui_colors.h"
 #include "features/viewers/repeated_view.h"
 #include "ui/ui_globals.h"
 
@@ -113,4 +116,26 @@ TEST_F(TileViewsTest, TheRepeatedViewOpensOnTabAndRepeatsTheTileOverTheAlphaGrid
     EXPECT_EQ(script.left(), 0u);
     EXPECT_FALSE(script.ran_out());
     EXPECT_EQ(Backdrop::depth(), 0);
+}
+
+// Frames and rows stay whole: the current tile's frame keeps its top and left
+// edges on the first row and column, and the undo history is as wide as its
+// longest row.
+TEST_F(TileViewsTest, TheCurrentTilesFrameAndTheHistoryRowsAreDrawnWhole) {
+    Real_Size_View view(store());
+    Event_Script script;
+    script.then([] { push_key(SDLK_ESCAPE); });
+    view.run();
+    const Rectangle p = view.picture();
+    EXPECT_EQ(read_pixel(p.x + 5, p.y - 1), ui_colors[ui_cyan]) << "top edge";
+    EXPECT_EQ(read_pixel(p.x - 1, p.y + 5), ui_colors[ui_cyan]) << "left edge";
+
+    for (int i = 0; i < 3; ++i) g_editor->undo().record(command_rectangle_selector);
+    int width = 0;
+    script.then([&] {
+        width = Backdrop::top_area().parts[0].width;
+        push_key(SDLK_ESCAPE);
+    });
+    g_editor->run_command(command_view_undo_history);
+    EXPECT_GT(width, 72 + g_main_window->writer().measure("3. Rectangle selector, tile 2"));
 }
