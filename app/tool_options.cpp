@@ -304,11 +304,17 @@ void Tool_Options_Pane::draw_stamp_outline(const Canvas_View& canvas, float x, f
     const Cell cell = canvas.cell_at(x, y);
     const int left = o.x + (cell.x - stamp.hot_x()) * s;
     const int top = o.y + (cell.y - stamp.hot_y()) * s;
-    Color c = tool_color(0);
-    c.alpha = 200;
+    // The stamp paints its own colours, so the outline is dark around light:
+    // seen over any pixel.
     for (int by = 0; by < image.height(); ++by)
         for (int bx = 0; bx < image.width(); ++bx)
-            if (image.alpha(bx, by) > 0) outline_clipped(Rectangle{left + bx * s, top + by * s, s, s}, canvas.view_rect(), c);
+            if (image.alpha(bx, by) > 0) {
+                const Rectangle cell_box{left + bx * s, top + by * s, s, s};
+                outline_clipped(cell_box, canvas.view_rect(), Color(0, 0, 0, 200));
+                if (s > 2)
+                    outline_clipped(Rectangle{cell_box.x + 1, cell_box.y + 1, s - 2, s - 2}, canvas.view_rect(),
+                                    Color(255, 255, 255, 200));
+            }
 }
 
 // The brush under the pointer: its pixels outlined on the cells it would
