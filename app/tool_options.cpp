@@ -34,6 +34,15 @@ int swatch_stack_height() {
 // The selection page shows the copy buffer below its rows.
 bool is_selection_page(int page) { return page == commands::tool_options_index(command_work_selection); }
 
+// The selector and selection pages do not show the tool colour panes, yet
+// "Fill" paints the selection in the left tool colour: these pages show it.
+bool shows_fill_color(int page) {
+    for (int tool : {command_rectangle_selector, command_circle_selector, command_brush_selector,
+                     command_wand_selector, command_work_selection})
+        if (page == commands::tool_options_index(tool)) return true;
+    return false;
+}
+
 bool is_dialog_row(int id) {
     return id != row_color_readout && id != row_location && id != row_size && id != row_radius && id != row_length &&
            id != row_degrees && id != row_offset;
@@ -86,6 +95,7 @@ Tool_Options_Pane::Tool_Options_Pane(int x, int y) : Pane(Rectangle{x, y, width,
             for (const auto& r : static_cast<Dialog_Pane&>(*rows[size_t(id)]).container().rows())
                 r->set_writer(&g_main_window->writer(font_pane));
     buffer = std::make_unique<Buffer_Pane>();
+    fill_color = std::make_unique<Pane>(Rectangle{0, 0, fill_color_width, fill_color_height}, "Fill color");
     pad = std::make_unique<Brush_Pad_Pane>(x + pad_offset, client.y);
     const Rectangle mixers = colors->mixer_stack();
     adjust_area = Rectangle{mixers.x, mixers.y + mixers.height + Color_Tools::gap, 110, 27};
@@ -135,6 +145,10 @@ void Tool_Options_Pane::layout_page() {
     if (p.brush) y = brush_selector->place(client.x, y);
     if (p.location) place(row_location);
     for (int i = 0; i < p.row_count; ++i) place(p.rows[i]);
+    if (shows_fill_color(current_page)) {
+        fill_color->set_position(client.x, y);
+        y += fill_color->outer_area().height + row_gap;
+    }
     if (is_selection_page(current_page)) buffer->place(client.x, y);
 }
 
@@ -161,6 +175,10 @@ void Tool_Options_Pane::draw() {
     if (p.location) rows[row_location]->draw();
     for (int i = 0; i < p.row_count; ++i) rows[size_t(p.rows[i])]->draw();
     w.next_group();
+    if (shows_fill_color(current_page)) {
+        fill_color->draw();
+        w.fill_rect(fill_color->client_area(), tool_color(0));
+    }
     if (is_selection_page(current_page)) buffer->draw();
     w.next_group();
     pad->draw(&brush());

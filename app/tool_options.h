@@ -108,6 +108,8 @@ public:
     Pane& row(int id) { return *rows[size_t(id)]; }
     // The copy buffer's pane, shown on the selection page.
     Buffer_Pane& buffer_pane() { return *buffer; }
+    // The left tool colour shown on the selector and selection pages.
+    const Pane& fill_color_pane() const { return *fill_color; }
     const Rectangle& adjust_button() const { return adjust_area; }
 
 private:
@@ -126,6 +128,10 @@ private:
     std::array<std::unique_ptr<Pane>, tool_pages::row_count> rows;
     std::unique_ptr<Brush_Pad_Pane> pad;
     std::unique_ptr<Buffer_Pane> buffer;
+    // The left tool colour, which "Fill" uses, on the pages without the colour panes.
+    static constexpr int fill_color_width = 120;
+    static constexpr int fill_color_height = 34;
+    std::unique_ptr<Pane> fill_color;
     Rectangle adjust_area{};
     struct Slot {
         int shape = 0;

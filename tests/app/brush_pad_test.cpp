@@ -110,7 +110,7 @@ TEST_F(BrushPad, APadBrushStampsAtItsHotspotWithBothButtons) {
     // the edge of each cell it would paint is drawn, a clear one's is not.
     const SDL_Point o = g_editor->canvas().origin();
     const int s = g_editor->canvas().pixel_size();
-    auto edge_of = [&](int tx, int ty) { return read_pixel(o.x + tx * s, o.y + ty * s + s / 2); };
+    auto edge_of = [&](int tx, int ty) { return read_pixel(o.x + tx * s + 1, o.y + ty * s + s / 2); };
     push_motion(5, 5);
     pump();
     g_editor->repaint(false);

@@ -89,6 +89,13 @@ TEST_F(Selecting, ShiftAddsTheRightButtonRemovesAndAPlainDragReplaces) {
 }
 
 TEST_F(Selecting, EveryCommandIsRecordedWithItsMaskAndRefusalsSayWhy) {
+    // The selector pages show the colour "Fill" paints with.
+    set_colors(red, blue);
+    use_tool(command_wand_selector);
+    g_editor->repaint(false);
+    const Rectangle swatch = g_tool_options->fill_color_pane().client_area();
+    EXPECT_EQ(read_pixel(swatch.x + swatch.width / 2, swatch.y + swatch.height / 2), red);
+
     for (int c : {command_copy, command_cut, command_paste, command_clone, command_fill, command_clear})
         expect_refused(c);
     EXPECT_EQ(g_editor->execute(command_deselect), -1);  // nothing to drop: silent
