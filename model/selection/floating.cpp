@@ -36,14 +36,6 @@ void scroll_wrapped(Tile& tile, int dx, int dy) {
             tile.pixels()[wrap(y + dy, h) * w + wrap(x + dx, w)] = before[size_t(y * w + x)];
 }
 
-void stamp_clipped(Tile& tile, const Tile& image, int x, int y) {
-    for (int iy = 0; iy < image.height(); ++iy)
-        for (int ix = 0; ix < image.width(); ++ix) {
-            const Color c = image.get_pixel(ix, iy);
-            if (c.alpha != 0) tile.set_pixel(x + ix, y + iy, c);
-        }
-}
-
 std::unique_ptr<Tile> lift(Tile& tile, const Tile& mask, int& x_out, int& y_out) {
     const Rectangle box = mask_ops::bounds(mask);
     if (box.empty() || !tile.same_size(mask)) return nullptr;

@@ -16,8 +16,6 @@ int wrap(int position, int size);
 void stamp_wrapped(Tile& tile, const Tile& image, int x, int y);
 // The whole tile moved by (dx, dy), what leaves one edge coming back at the other.
 void scroll_wrapped(Tile& tile, int dx, int dy);
-// Without wrap: what passes the edge is lost.
-void stamp_clipped(Tile& tile, const Tile& image, int x, int y);
 
 // Lifts the selected pixels out of the tile: they become an image of the
 // selection's bounding box (the rest transparent) at the box's corner, and

@@ -2,13 +2,34 @@
 // with exit code 1 and exactly its message.
 #include <gtest/gtest.h>
 
+#include <sys/wait.h>
+
+#include <cstdio>
 #include <filesystem>
 
 #include "model/core/data_file.h"
 #include "support/headless.h"
-#include "support/process.h"
 
 namespace fs = std::filesystem;
+
+namespace {
+struct Process_Result {
+    int exit_code = -1;
+    std::string output;
+};
+
+// Runs a shell command in the given directory and collects its standard output.
+Process_Result run_in(const fs::path& dir, const std::string& command) {
+    Process_Result result;
+    FILE* pipe = popen(("cd '" + dir.string() + "' && " + command + " 2>/dev/null").c_str(), "r");
+    if (!pipe) return result;
+    char chunk[256];
+    for (size_t n; (n = fread(chunk, 1, sizeof chunk, pipe)) > 0;) result.output.append(chunk, n);
+    const int status = pclose(pipe);
+    result.exit_code = WIFEXITED(status) ? WEXITSTATUS(status) : -1;
+    return result;
+}
+}  // namespace
 
 TEST(Program, FatalStartsEndWithTheirOwnMessage) {
     const struct {

@@ -57,12 +57,8 @@ Seen seen(Tileset& t) {
 
 std::string describe(const Seen& a, const Seen& b) {
     std::ostringstream out;
-    out << "tiles " << a.tiles.size() << " vs " << b.tiles.size();
-    for (size_t i = 0; i < std::min(a.tiles.size(), b.tiles.size()); ++i)
-        if (a.tiles[i] != b.tiles[i]) out << ", tile " << i << " differs";
-    int cells = 0;
-    for (size_t i = 0; i < std::min(a.cells.size(), b.cells.size()); ++i) cells += a.cells[i] != b.cells[i];
-    out << ", cells differing " << cells;
+    out << "tiles " << a.tiles.size() << " vs " << b.tiles.size() << (a.tiles == b.tiles ? "" : ", tiles differ")
+        << (a.cells == b.cells ? "" : ", cells differ");
     return out.str();
 }
 

@@ -96,15 +96,6 @@ TEST(PaletteReading, DamagedCountsFallBackToTheBuiltInPagesAndLeaveTheFile) {
         }
         EXPECT_EQ(read_bytes(path), bytes) << text;
     }
-    // Within the bounds the reading rules hold: missing tokens give empty pages.
-    write_stream(path, "5,256,a:");
-    Palette palette(path);
-    ASSERT_EQ(palette.page_count(), 5);
-    EXPECT_EQ(palette.count(0), 256);
-    EXPECT_EQ(palette.name(0), "a");
-    EXPECT_EQ(palette.count(4), 0);
-    EXPECT_EQ(palette.name(4), "");
-    EXPECT_TRUE(palette.damage_report().empty());
 }
 
 TEST(PaletteDeathTest, ALengthBeyondOrShortOfTheFileEndsWithTheBlockError) {

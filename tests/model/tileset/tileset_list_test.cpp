@@ -10,23 +10,6 @@
 
 namespace {
 
-TEST(TilesetListNew, RefusedAfter999) {
-    Tileset_List list;
-    for (int i = 1; i <= 999; ++i) {
-        ASSERT_TRUE(list.new_tileset(6, 6));
-        if (list.count() > 1) {
-            list.make_current(list.at(0));
-            list.close_current();
-        }
-    }
-    EXPECT_EQ(list.current()->path().full, "untitled999.wst");
-    EXPECT_FALSE(list.new_tileset(6, 6));
-    EXPECT_EQ(list.current()->path().full, "untitled999.wst");
-    // Closing the last tileset would need a fresh name: it stays.
-    EXPECT_FALSE(list.close_current());
-    EXPECT_EQ(list.count(), 1);
-}
-
 TEST(TilesetListClose, TheOnlyTilesetMakesWayForAFresh24x24One) {
     Tileset_List list;
     list.new_tileset(40, 40);
