@@ -98,3 +98,13 @@ TEST_F(ColorEditorTest, RightClickOnAPaletteCellSetsAndSelectsTheRightColour) {
     EXPECT_EQ(tools.color(0), Color(0, 0, 0));
     EXPECT_EQ(tools.palette_area().cell_at(c.x + 191, c.y + 95), 31);
 }
+
+// Closing the program's window closes the colour editor and asks at once
+// whether to quit: one close is enough.
+TEST_F(ColorEditorTest, OneCloseRequestReachesTheQuitQuestion) {
+    Event_Script script;
+    script.then([] { push_close_request(); }).then([] { push_key(SDLK_Y); });
+    g_editor->run_command(command_color_editor);
+    pump();
+    EXPECT_TRUE(g_editor->quit_requested());
+}
