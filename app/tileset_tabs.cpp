@@ -27,10 +27,11 @@ std::string Tileset_Tabs::tab_label(const std::string& display_name, int room) {
     Text_Writer& t = writer();
     if (t.measure(display_name.c_str()) <= room) return display_name;
     const bool marked = !display_name.empty() && display_name.back() == '*';
-    const std::string mark = marked ? "*" : "";
-    std::string name = display_name.substr(0, display_name.size() - mark.size());
-    while (!name.empty() && t.measure((name + ".." + mark).c_str()) > room) name.pop_back();
-    return name + ".." + mark;
+    const char* tail = marked ? "..*" : "..";
+    const int tail_width = t.measure(tail);
+    int chars = int(display_name.size()) - (marked ? 1 : 0);
+    while (chars > 0 && t.measure_prefix(display_name.c_str(), chars) + tail_width > room) --chars;
+    return display_name.substr(0, size_t(chars)) + tail;
 }
 
 Rectangle Tileset_Tabs::tab_area(Tileset_List& list, int index) const {

@@ -95,7 +95,7 @@ Tool_Options_Pane::Tool_Options_Pane(int x, int y) : Pane(Rectangle{x, y, width,
             for (const auto& r : static_cast<Dialog_Pane&>(*rows[size_t(id)]).container().rows())
                 r->set_writer(&g_main_window->writer(font_pane));
     buffer = std::make_unique<Buffer_Pane>();
-    fill_color = std::make_unique<Pane>(Rectangle{0, 0, fill_color_width, fill_color_height}, "Fill color");
+    fill_color = std::make_unique<Pane>(Rectangle{0, 0, fill_color_width, fill_color_height}, "Fill");
     pad = std::make_unique<Brush_Pad_Pane>(x + pad_offset, client.y);
     const Rectangle mixers = colors->mixer_stack();
     adjust_area = Rectangle{mixers.x, mixers.y + mixers.height + Color_Tools::gap, 110, 27};

@@ -58,11 +58,18 @@ void Preview_Pane::compose(const Tile& tile) {
     const int width = std::min(count_x * tw, body_width);
     const int height = std::min(count_y * th, body_height);
     picture.resize(size_t(width) * size_t(height));
-    for (int y = 0; y < height; ++y)
-        for (int x = 0; x < width; ++x) {
-            const bool light = ((x / checker_w) + (y / checker_h)) % 2 == 0;
-            picture[size_t(y * width + x)] = over(ui_colors[light ? ui_grey_169 : ui_grey_101], tile.get_pixel(x % tw, y % th));
+    // Row by row from the tile's own row, the column wrapping by a counter:
+    // this runs at every repaint while the tile changes.
+    for (int y = 0; y < height; ++y) {
+        const Color* source = tile.pixels() + (y % th) * tw;
+        Color* out = picture.data() + size_t(y) * size_t(width);
+        const int checker_row = y / checker_h;
+        for (int x = 0, tx = 0; x < width; ++x) {
+            const bool light = ((x / checker_w) + checker_row) % 2 == 0;
+            out[x] = over(ui_colors[light ? ui_grey_169 : ui_grey_101], source[tx]);
+            if (++tx == tw) tx = 0;
         }
+    }
     if (!texture || texture->width() != width || texture->height() != height) {
         texture.reset(Texture::from_pixels(g_main_window->renderer(), picture.data(), width, height));
         texture->set_opaque(true);

@@ -35,9 +35,9 @@ void draw_fitted(Tile& image, const Rectangle& box) {
     } else {
         w = std::max(1, image.width() * box.height / image.height());
     }
-    g_main_window->fill_rect(Rectangle{box.x + (box.width - w) / 2, box.y + (box.height - h) / 2, w, h},
-                             ui_colors[ui_grey_169]);
-    texture->draw_scaled(box.x + (box.width - w) / 2, box.y + (box.height - h) / 2, w, h);
+    const Rectangle shown{box.x + (box.width - w) / 2, box.y + (box.height - h) / 2, w, h};
+    g_main_window->fill_rect(shown, ui_colors[ui_grey_169]);
+    texture->draw_scaled(shown.x, shown.y, w, h);
 }
 }  // namespace
 
