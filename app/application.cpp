@@ -6,7 +6,10 @@
 #include <filesystem>
 #include <string>
 #include <system_error>
+#include <vector>
 
+#include "app/batch.h"
+#include "app/command_line.h"
 #include "features/brushpad/brush_pad_pane.h"
 #include "model/core/data_file.h"
 #include "platform/data_directory.h"
@@ -35,7 +38,24 @@ std::string pad_damage;
 std::string data_folder;
 }  // namespace
 
-int Application::main() {
+int Application::main(int argc, char** argv) {
+    const Command_Line line =
+        Command_Line::parse(std::vector<std::string>(argv + (argc > 0 ? 1 : 0), argv + argc), Command_Line::start_dir());
+    switch (line.mode) {
+        case Command_Line::Mode::help:
+            std::fputs(Command_Line::usage(), stdout);
+            return 0;
+        case Command_Line::Mode::version:
+            std::printf("%s\n", Command_Line::version());
+            return 0;
+        case Command_Line::Mode::usage_error:
+            std::fprintf(stderr, "mosswick: %s\n%s", line.error.c_str(), Command_Line::usage());
+            return 2;
+        case Command_Line::Mode::batch:
+            return run_batch(line);
+        case Command_Line::Mode::window:
+            break;
+    }
     // Keys arrive as the unshifted key, so Shift+R is R with Shift held, as
     // the command table binds it.
     SDL_SetHint(SDL_HINT_KEYCODE_OPTIONS, "unmodified");
@@ -44,7 +64,7 @@ int Application::main() {
         return 1;
     }
     start_up();
-    run();
+    run(&line);
     shut_down();
     SDL_QuitSubSystem(SDL_INIT_VIDEO);
     SDL_Quit();
@@ -82,7 +102,7 @@ void Application::start_up() {
     g_options->load();
 }
 
-void Application::run() {
+void Application::run(const Command_Line* given) {
     std::string note = recovery::start_note(recovery::folder());
     const std::vector<std::string> damaged = Data_File::damaged_files(data_folder);
     if (!damaged.empty()) {
@@ -97,7 +117,7 @@ void Application::run() {
         note += std::string("The brush pad file \"") + Brush_Pad_File::default_name + "\" was refused (" + pad_damage +
                 "):\rthe pad starts empty and the file is kept as it is; brushes added\rin this session are not saved.";
     }
-    g_editor->run(note);
+    g_editor->run(note, given);
 }
 
 // Not the mirror of start-up: the options go first and the editor second, and

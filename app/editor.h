@@ -15,6 +15,7 @@ class Canvas_View;
 class Color_Editor;
 class Drawing_Tools;
 class File_Commands;
+struct Command_Line;
 class Menu_Bar;
 class Selection_Tools;
 class Stroke_Action;
@@ -45,8 +46,9 @@ public:
     Editor& operator=(const Editor&) = delete;
 
     // The main loop; returns when the quit flag is set or the first tileset
-    // cannot be made. A start note is shown over the first frame.
-    void run(const std::string& start_note = {});
+    // cannot be made. A start note is shown over the first frame, then the
+    // files named on the command line are opened.
+    void run(const std::string& start_note = {}, const Command_Line* given = nullptr);
     // Everything before the first wait: the first tileset and the layout.
     bool begin();
     // One event routed as the main loop routes it.

@@ -7,7 +7,9 @@
 #include <system_error>
 #include <string>
 
+#include "app/batch.h"
 #include "app/canvas_view.h"
+#include "app/command_line.h"
 #include "app/editor.h"
 #include "app/file_dialog.h"
 #include "platform/globals.h"
@@ -15,6 +17,7 @@
 #include "platform/main_window.h"
 #include "app/map_files.h"
 #include "app/prompt_dialogs.h"
+#include "model/core/commands.h"
 #include "model/tileset/tileset_file.h"
 #include "features/viewers/export_preview.h"
 #include "ui/message_box.h"
@@ -76,19 +79,58 @@ void File_Commands::save(bool save_as) {
 void File_Commands::load() {
     File_Path chosen = editor.tilesets().current() ? editor.tilesets().current()->path() : File_Path{};
     if (!choose_file(file_open_tileset, chosen)) return;
+    open_file(chosen.full);
+}
+
+void File_Commands::open_file(const std::string& path) {
     // A second copy would be saved over the first: its tab is shown instead.
     std::error_code error;
     for (int i = 0; i < editor.tilesets().count(); ++i)
-        if (std::filesystem::equivalent(editor.tilesets().at(i).path().full, chosen.full, error)) {
+        if (std::filesystem::equivalent(editor.tilesets().at(i).path().full, path, error)) {
             editor.tilesets().make_current(editor.tilesets().at(i));
             editor.relayout();
             return;
         }
-    if (!editor.tilesets().open_file(chosen.full)) {
+    if (!editor.tilesets().open_file(path)) {
         g_message_box->show_message("Error", Tileset_File::load_error_text);
         return;
     }
     load_map(*editor.tilesets().current());
+    editor.relayout();
+}
+
+void File_Commands::open_sheet(const std::string& path, int tile_width, int tile_height) {
+    std::string why;
+    int left_out = 0;
+    std::unique_ptr<Tile_Store> tiles = tiles_of_sheet(path, tile_width, tile_height, why, left_out);
+    if (!tiles) {
+        const std::string text = "The sheet could not be opened as tiles:\r" + why;
+        g_message_box->show_message("Error", text.c_str());
+        return;
+    }
+    // Named after the sheet, so the tab and the title say where it came from.
+    const std::string named = std::filesystem::path(path).replace_extension(".wst").string();
+    auto tileset = std::make_unique<Tileset>(named, std::move(tiles));
+    tileset->history().record_if_inverse(command_select_tile, tileset->store(), nullptr);
+    editor.tilesets().open(std::move(tileset));
+    editor.relayout();
+    if (left_out > 0) {
+        const std::string text = "The sheet holds more than 256 tiles: the " + std::to_string(left_out) +
+                                 " after the 256th were left out.";
+        g_message_box->note(text.c_str());
+    }
+}
+
+void File_Commands::open_given(const Command_Line& given) {
+    Tileset_List& open = editor.tilesets();
+    Tileset* fresh = open.count() == 1 ? open.current() : nullptr;
+    for (const std::string& path : given.tilesets) open_file(path);
+    if (!given.sheet.empty()) open_sheet(given.sheet, given.tile_width, given.tile_height);
+    if (!fresh || open.count() < 2 || fresh->is_modified()) return;
+    Tileset* shown = open.current();
+    open.make_current(*fresh);
+    open.close_current();
+    if (shown != fresh) open.make_current(*shown);
     editor.relayout();
 }
 

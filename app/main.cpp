@@ -5,7 +5,7 @@
 #include "app/application.h"
 
 namespace {
-int mosswick_main(int, char**) { return Application::main(); }
+int mosswick_main(int argc, char** argv) { return Application::main(argc, argv); }
 }  // namespace
 
-int main(int, char**) { return SDL_RunApp(0, nullptr, mosswick_main, nullptr); }
+int main(int argc, char** argv) { return SDL_RunApp(argc, argv, mosswick_main, nullptr); }

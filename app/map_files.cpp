@@ -10,6 +10,7 @@
 #include "model/core/safe_file.h"
 #include "model/tileset/tileset.h"
 #include "model/map/map_file.h"
+#include "model/tile/sheet.h"
 #include "ui/message_box.h"
 #include "ui/ui_globals.h"
 
@@ -17,23 +18,7 @@ namespace {
 std::string file_name(const std::string& path) { return std::filesystem::path(path).filename().string(); }
 }  // namespace
 
-void compose_sheet(const Tile_Store& store, Image& sheet) {
-    const int tw = int(store.tile_width());
-    const int th = int(store.tile_height());
-    sheet.fill(Rectangle{0, 0, 16 * tw, 16 * th}, Image::Rgba{0, 0, 0, 255});
-    int index = 0;
-    for (const auto& tile : store.all()) {
-        if (index >= 256) break;
-        const int ox = (index % 16) * tw;
-        const int oy = (index / 16) * th;
-        for (int y = 0; y < th; ++y)
-            for (int x = 0; x < tw; ++x) {
-                const Color c = tile->get_pixel(x, y);
-                sheet.set_pixel(ox + x, oy + y, Image::Rgba{c.red, c.green, c.blue, c.alpha});
-            }
-        ++index;
-    }
-}
+void compose_sheet(const Tile_Store& store, Image& sheet) { sheet.put(sheet::compose(store)); }
 
 namespace {
 bool ask_to_replace(const std::string& path, bool foreign) {

@@ -1,10 +1,13 @@
 #include "platform/image.h"
 
+#include <algorithm>
 #include <cstdio>
+#include <cstring>
 #include <cstdlib>
 
 #include "model/core/fatal.h"
 #include "model/core/safe_file.h"
+#include "platform/picture_file.h"
 
 namespace {
 
@@ -99,17 +102,12 @@ void Image::blit(const Rectangle& source, Image& target, int x, int y) const {
 }
 
 bool Image::save_bmp(const std::string& path, bool user_chose_path) const {
-    SDL_IOStream* memory = SDL_IOFromDynamicMem();
-    if (!memory) return false;
-    bool ok = SDL_SaveBMP_IO(pixels, memory, false);
-    const Sint64 size = ok ? SDL_TellIO(memory) : -1;
-    const void* bytes =
-        SDL_GetPointerProperty(SDL_GetIOProperties(memory), SDL_PROP_IOSTREAM_DYNAMIC_MEMORY_POINTER, nullptr);
-    ok = ok && size > 0 && bytes &&
-         safe_file::written(
-             path,
-             [&](std::FILE* file) { return std::fwrite(bytes, 1, size_t(size), file) == size_t(size); },
-             user_chose_path ? safe_file::Links::follow : safe_file::Links::refuse);
-    SDL_CloseIO(memory);
-    return ok;
+    return picture_file::write_bmp(pixels, path, user_chose_path ? safe_file::Links::follow : safe_file::Links::refuse);
+}
+
+void Image::put(const Picture& picture) {
+    const int width = std::min(int(w), picture.width);
+    for (int y = 0; y < int(h) && y < picture.height; ++y)
+        std::memcpy(static_cast<uint8_t*>(pixels->pixels) + size_t(y) * size_t(pixels->pitch), &picture.at(0, y),
+                    size_t(width) * sizeof(Color));
 }

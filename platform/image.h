@@ -6,6 +6,7 @@
 #include <string>
 
 #include "model/core/rectangle.h"
+#include "model/tile/picture.h"
 
 // A raster image in memory on an ARGB8888 surface. Loaded images are either
 // fully transparent (where the colour key matched) or fully opaque.
@@ -36,6 +37,9 @@ public:
     void set_colour_key(uint8_t r, uint8_t g, uint8_t b);
     void fill(const Rectangle& rect, Rgba c);
     void blit(const Rectangle& source, Image& target, int x, int y) const;
+
+    // The picture's pixels from the top left corner, as far as both reach.
+    void put(const Picture& picture);
 
     // Writes the image as a BMP file through the safe writer; false when
     // anything failed (the previous file, if any, stays as it was).
