@@ -48,7 +48,12 @@ sdl_prefix=$(bash "$root/tools/fetch_sdl3.sh" | tail -n 1)
 
 if [ "$cmd" = run ]; then
     configure_and_build "$root/build" -DCMAKE_BUILD_TYPE=RelWithDebInfo -DMOSSWICK_TESTS=OFF -DMOSSWICK_BENCH=OFF
-    exec "$root/tools/launcher.sh" "$root/build/mosswick"
+    # The program reads data/ from its working directory; the build placed it beside the program.
+    # Further arguments go to the program; relative paths mean the directory it was started from.
+    shift
+    export MOSSWICK_START_DIR=$PWD
+    cd "$root/build"
+    exec ./mosswick "$@"
 fi
 
 configure_and_build "$root/build-check" -DCMAKE_BUILD_TYPE=Debug -DMOSSWICK_SANITIZE=ON -DMOSSWICK_BENCH=OFF

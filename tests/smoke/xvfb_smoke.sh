@@ -3,32 +3,8 @@
 # screenshot and checks what a user would see, then closes it like a user.
 set -u
 exe=$(readlink -f "$1")
-workdir=$(mktemp -d)
-pids=()
-cleanup() {
-    for p in "${pids[@]}"; do kill "$p" 2>/dev/null; done
-    wait 2>/dev/null
-    rm -rf "$workdir"
-}
-trap cleanup EXIT
-fail() { echo "FAIL: $*"; exit 1; }
-
-# A free display number: no socket and no lock file for it yet.
-display=""
-for n in $(seq 90 140); do
-    if [ ! -e "/tmp/.X11-unix/X$n" ] && [ ! -e "/tmp/.X$n-lock" ]; then display=":$n"; break; fi
-done
-[ -n "$display" ] || fail "no free X display number"
-
-Xvfb "$display" -screen 0 1280x720x24 -nolisten tcp >"$workdir/xvfb.log" 2>&1 &
-pids+=($!)
-for _ in $(seq 50); do [ -e "/tmp/.X11-unix/X${display#:}" ] && break; sleep 0.1; done
-
-export DISPLAY=$display NO_AT_BRIDGE=1 DBUS_SESSION_BUS_ADDRESS=disabled:
-# Under X the renderer runs on Mesa, whose JIT code and driver are unloaded at
-# exit, so its leftovers cannot be told apart by stack. Leaks of our own code
-# are checked by every headless test instead.
-export ASAN_OPTIONS=detect_leaks=0
+source "$(dirname "${BASH_SOURCE[0]}")/x_session.sh"
+start_x 90 1280x720x24
 cp -r "$(dirname "$exe")/data" "$workdir/data"
 (cd "$workdir" && exec "$exe") >"$workdir/out.log" 2>&1 &
 app=$!

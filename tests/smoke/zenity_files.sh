@@ -3,27 +3,9 @@
 # SDL uses when no desktop portal is reachable), the way a user would.
 set -u
 exe=$(readlink -f "$1")
-workdir=$(mktemp -d)
-pids=()
-cleanup() {
-    for p in "${pids[@]}"; do kill "$p" 2>/dev/null; done
-    pkill -f "zenity.*$workdir" 2>/dev/null
-    wait 2>/dev/null
-    rm -rf "$workdir"
-}
-trap cleanup EXIT
-fail() { echo "FAIL: $*"; [ -f "$workdir/out.log" ] && cat "$workdir/out.log"; exit 1; }
-
-display=""
-for n in $(seq 141 190); do
-    if [ ! -e "/tmp/.X11-unix/X$n" ] && [ ! -e "/tmp/.X$n-lock" ]; then display=":$n"; break; fi
-done
-[ -n "$display" ] || fail "no free X display number"
+source "$(dirname "${BASH_SOURCE[0]}")/x_session.sh"
 # The file dialog is 1096 x 822: the screen must hold it.
-Xvfb "$display" -screen 0 1280x1024x24 -nolisten tcp >/dev/null 2>&1 &
-pids+=($!)
-for _ in $(seq 50); do [ -e "/tmp/.X11-unix/X${display#:}" ] && break; sleep 0.1; done
-export DISPLAY=$display NO_AT_BRIDGE=1 DBUS_SESSION_BUS_ADDRESS=disabled: ASAN_OPTIONS=detect_leaks=0
+start_x 141 1280x1024x24
 # zenity keeps its own settings and recent files under HOME.
 export HOME=$workdir/home
 mkdir -p "$HOME" "$workdir/run" "$workdir/files"
