@@ -143,13 +143,15 @@ bool Editor::begin() {
     return true;
 }
 
+void Editor::open_given(const Command_Line& given) { file_commands->open_given(given); }
+
 void Editor::run(const std::string& start_note, const Command_Line* given) {
     if (!begin()) return;
     if (!start_note.empty()) {
         repaint(true);
         g_message_box->note(start_note.c_str());
     }
-    if (given) file_commands->open_given(*given);
+    if (given) open_given(*given);
     SDL_Event event;
     while (!quit) {
         repaint(true);

@@ -51,6 +51,9 @@ public:
     void run(const std::string& start_note = {}, const Command_Line* given = nullptr);
     // Everything before the first wait: the first tileset and the layout.
     bool begin();
+    // The tilesets and the sheet named on the command line, opened as Load
+    // opens files; the untouched first tileset gives way to them.
+    void open_given(const Command_Line& given);
     // One event routed as the main loop routes it.
     void handle(const SDL_Event& event);
     void repaint(bool present);

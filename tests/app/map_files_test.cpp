@@ -4,6 +4,10 @@
 
 #include <fstream>
 
+#include "app/command_line.h"
+#include "model/tile/sheet.h"
+#include "platform/picture_file.h"
+
 #include "model/tileset/tileset_file.h"
 #include "model/map/map_file.h"
 #include "support/editor_fixture.h"
@@ -91,4 +95,34 @@ TEST_F(MapFilesTest, ADamagedMapIsReportedAndReplacedOnlyWhenTheUserAgrees) {
     loaded.map().place(4, 4, 0);
     save(loaded);
     EXPECT_FALSE(script.ran_out());
+}
+
+TEST_F(MapFilesTest, FilesNamedOnTheCommandLineOpenInTabsInPlaceOfTheFirstTileset) {
+    const std::string a = (dir.path / "a.wst").string(), b = (dir.path / "b.wst").string();
+    tileset().store().tile_at(0)->set_pixel(3, 4, Color(10, 20, 30, 40));
+    ASSERT_GE(Tileset_File::write(tileset().store(), a), 0);
+    ASSERT_GE(Tileset_File::write(tileset().store(), b), 0);
+    ASSERT_TRUE(picture_file::write((dir.path / "s.png").string(), sheet::compose(tileset().store()),
+                                    safe_file::Links::refuse));
+    Command_Line given;
+    given.tilesets = {a, b, a};
+    given.sheet = (dir.path / "s.png").string();
+    given.tile_width = given.tile_height = 24;
+    g_editor->open_given(given);
+    ASSERT_EQ(g_editor->tilesets().count(), 3);
+    EXPECT_EQ(g_editor->tilesets().at(0).display_name(), "a");
+    Tileset& cut = g_editor->tilesets().at(2);
+    EXPECT_EQ(&cut, g_editor->current());
+    EXPECT_STREQ(SDL_GetWindowTitle(g_main_window->window()), "Mosswick 0.88 - s");
+    EXPECT_FALSE(cut.is_named());
+    EXPECT_EQ(cut.store().tile_at(0)->get_pixel(3, 4), Color(10, 20, 30, 40));
+
+    // A sheet that cannot be cut says why; nothing else changes.
+    given.tilesets.clear();
+    given.tile_width = 25;
+    Event_Script script;
+    script.then([] { push_key(SDLK_RETURN); });
+    g_editor->open_given(given);
+    EXPECT_EQ(script.left(), 0u);
+    EXPECT_EQ(g_editor->tilesets().count(), 3);
 }

@@ -8,6 +8,11 @@
 #include <filesystem>
 
 #include "model/core/data_file.h"
+#include "model/map/map_editor.h"
+#include "model/map/map_file.h"
+#include "model/tile/sheet.h"
+#include "model/tileset/tileset_file.h"
+#include "platform/picture_file.h"
 #include "support/headless.h"
 
 namespace fs = std::filesystem;
@@ -18,10 +23,11 @@ struct Process_Result {
     std::string output;
 };
 
-// Runs a shell command in the given directory and collects its standard output.
-Process_Result run_in(const fs::path& dir, const std::string& command) {
+// Runs a shell command in the given directory and collects its standard
+// output (with the redirection given, its standard error instead).
+Process_Result run_in(const fs::path& dir, const std::string& command, const char* redirect = " 2>/dev/null") {
     Process_Result result;
-    FILE* pipe = popen(("cd '" + dir.string() + "' && " + command + " 2>/dev/null").c_str(), "r");
+    FILE* pipe = popen(("cd '" + dir.string() + "' && " + command + redirect).c_str(), "r");
     if (!pipe) return result;
     char chunk[256];
     for (size_t n; (n = fread(chunk, 1, sizeof chunk, pipe)) > 0;) result.output.append(chunk, n);
@@ -65,4 +71,48 @@ TEST(Program, FatalStartsEndWithTheirOwnMessage) {
             EXPECT_EQ(aside[0].rfind("palette.dat.damaged-", 0), 0u);
         }
     }
+}
+
+TEST(Program, BatchConversionsWriteWholeFilesOrNone) {
+    Temp_Dir dir;
+    const std::string d = dir.path.string();
+    // 17 tiles of 8 x 10 with every kind of alpha, and a map beside them.
+    Tile_Store tiles(8, 10, 256);
+    uint32_t seed = 1;
+    for (int i = 0; i < 17; ++i)
+        tiles.append(std::make_unique<Tile>(8, 10, [&](Color* px) {
+            for (int k = 0; k < 80; ++k) px[k] = Color::from_word(seed = seed * 1664525u + 1013904223u);
+        }));
+    ASSERT_GT(Tileset_File::write(tiles, d + "/forest.wst"), 0);
+    Map_Editor map(8, 10);
+    map.place(0, 0, 3);
+    map.place(2, 1, 16);
+    ASSERT_TRUE(Map_File::write(map.map(), 8, 10, d + "/forest.tmx"));
+    write_bytes(d + "/short.wst", {'W', 'S', 'T', 10, 0, 8, 10, 1, 0, 0, 0, 1, 2});
+    fs::create_directory(dir.path / "elsewhere");
+
+    // Run from another directory: paths are the ones the user started in.
+    const std::string exe = "MOSSWICK_START_DIR='" + d + "' " MOSSWICK_EXE " --batch ";
+    EXPECT_EQ(run_in(dir.path / "elsewhere", exe + "forest.wst --export sheet.png --map-image map.bmp").exit_code, 0);
+    EXPECT_EQ(run_in(dir.path, exe + "sheet.png --tile 8x10 --save back.wst").exit_code, 0);
+    EXPECT_EQ(read_bytes(d + "/back.wst"), read_bytes(d + "/forest.wst"));
+    Picture image;
+    ASSERT_EQ(picture_file::read(d + "/map.bmp", image), "");
+    EXPECT_EQ(image.width, 60 * 8);
+    EXPECT_EQ(image.at(5, 7), tiles.tile_at(3)->get_pixel(5, 7));
+    EXPECT_EQ(image.at(2 * 8 + 1, 10 + 2), tiles.tile_at(16)->get_pixel(1, 2));
+    EXPECT_EQ(image.at(8, 0).alpha, 0);
+
+    // Each failure: exit 1, one line on standard error, no file left behind.
+    const size_t files = size_t(std::distance(fs::directory_iterator(dir.path), fs::directory_iterator()));
+    for (const char* failing : {"sheet.png --tile 7x10 --save x.wst", "short.wst --export x.png",
+                                "back.wst --map-image x.png", "none.wst --export x.bmp",
+                                "forest.wst --export no/such/folder.png"}) {
+        const Process_Result r = run_in(dir.path, exe + failing, " 2>&1 >/dev/null");
+        EXPECT_EQ(r.exit_code, 1) << failing;
+        EXPECT_EQ(std::count(r.output.begin(), r.output.end(), '\n'), 1) << failing << ": " << r.output;
+    }
+    EXPECT_EQ(size_t(std::distance(fs::directory_iterator(dir.path), fs::directory_iterator())), files);
+    EXPECT_EQ(run_in(dir.path, MOSSWICK_EXE " --batch forest.wst --frobnicate").exit_code, 2);
+    EXPECT_EQ(run_in(dir.path, MOSSWICK_EXE " --version").output, "Mosswick 0.88\n");
 }
