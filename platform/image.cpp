@@ -11,26 +11,17 @@
 
 namespace {
 
-uint32_t little_endian(const unsigned char* p, int bytes) {
-    uint32_t value = 0;
-    for (int i = bytes - 1; i >= 0; --i) value = value << 8 | p[i];
-    return value;
-}
-
 // SDL makes the whole surface a BMP header asks for before it reads a pixel, so
-// a damaged header can ask for gigabytes. The sides are read here first, the
-// way SDL reads them; anything else wrong with the file is left to SDL.
+// a damaged header can ask for gigabytes: the sides are read here first.
 bool claims_too_large(const char* file_name) {
-    unsigned char header[26];
+    uint8_t header[26];
     std::FILE* file = std::fopen(file_name, "rb");
     if (!file) return false;
-    const bool read = std::fread(header, sizeof header, 1, file) == 1;
+    const size_t read = std::fread(header, 1, sizeof header, file);
     std::fclose(file);
-    if (!read || header[0] != 'B' || header[1] != 'M') return false;
-    const bool core_header = little_endian(header + 14, 4) == 12;
-    const long long width = core_header ? little_endian(header + 18, 2) : int32_t(little_endian(header + 18, 4));
-    const long long height = core_header ? little_endian(header + 20, 2) : int32_t(little_endian(header + 22, 4));
-    return std::llabs(width) > Image::max_side || std::llabs(height) > Image::max_side;
+    long long width = 0, height = 0;
+    return picture_file::bmp_claimed_size(header, read, width, height) &&
+           (width > Image::max_side || height > Image::max_side);
 }
 
 }  // namespace

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cctype>
 #include <cstdio>
+#include <cstdlib>
 #include <cstring>
 #include <fstream>
 
@@ -11,16 +12,17 @@
 namespace picture_file {
 
 namespace {
-// The size a BMP header claims, checked before SDL reserves its pixels.
-std::string check_bmp_header(const uint8_t* h, size_t size) {
-    if (size < 26 || h[0] != 'B' || h[1] != 'M') return "not a PNG or BMP file";
-    int32_t width = 0, height = 0;
-    std::memcpy(&width, h + 18, 4);
-    std::memcpy(&height, h + 22, 4);
-    const long long w = width < 0 ? -(long long)width : width;
-    const long long hh = height < 0 ? -(long long)height : height;
-    if (w > png_file::max_side || hh > png_file::max_side || w * hh > png_file::max_pixels)
-        return "a picture of " + std::to_string(w) + " x " + std::to_string(hh) + " pixels is too large";
+uint32_t little_endian(const uint8_t* p, int bytes) {
+    uint32_t value = 0;
+    for (int i = bytes - 1; i >= 0; --i) value = value << 8 | p[i];
+    return value;
+}
+
+std::string check_bmp_header(const uint8_t* header, size_t size) {
+    long long w = 0, h = 0;
+    if (!bmp_claimed_size(header, size, w, h)) return "not a PNG or BMP file";
+    if (w > png_file::max_side || h > png_file::max_side || w * h > png_file::max_pixels)
+        return "a picture of " + std::to_string(w) + " x " + std::to_string(h) + " pixels is too large";
     return {};
 }
 
@@ -40,6 +42,17 @@ std::string read_bmp(const std::string& path, Picture& into) {
     return {};
 }
 }  // namespace
+
+bool bmp_claimed_size(const uint8_t* header, size_t size, long long& width, long long& height) {
+    if (size < 26 || header[0] != 'B' || header[1] != 'M') return false;
+    // An OS/2 core header keeps its sides in 16 bits; the others in 32, signed.
+    const bool core_header = little_endian(header + 14, 4) == 12;
+    width = core_header ? little_endian(header + 18, 2) : int32_t(little_endian(header + 18, 4));
+    height = core_header ? little_endian(header + 20, 2) : int32_t(little_endian(header + 22, 4));
+    width = std::llabs(width);
+    height = std::llabs(height);
+    return true;
+}
 
 bool names_png(const std::string& path) {
     if (path.size() < 4) return false;

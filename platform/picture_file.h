@@ -18,6 +18,11 @@ std::string read(const std::string& path, Picture& into);
 bool write(const std::string& path, const Picture& picture, safe_file::Links links);
 bool names_png(const std::string& path);
 
+// The sides a BMP header claims, read the way SDL reads them (so that a
+// damaged header is refused before SDL reserves its pixels); false when the
+// bytes are no BMP header.
+bool bmp_claimed_size(const uint8_t* header, size_t size, long long& width, long long& height);
+
 // A surface as a BMP file through the safe writer.
 bool write_bmp(SDL_Surface* surface, const std::string& path, safe_file::Links links);
 

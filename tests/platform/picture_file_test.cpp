@@ -27,9 +27,9 @@ TEST(PictureFile, PngAndBmpKeepEveryChannel) {
     claim[0] = 'B', claim[1] = 'M', claim[14] = 40;
     claim[18] = claim[22] = 0x60, claim[19] = claim[23] = 0xEA;
     write_bytes((dir.path / "huge.bmp").string(), claim);
-    Picture back;
-    EXPECT_NE(picture_file::read((dir.path / "huge.bmp").string(), back).find("too large"), std::string::npos);
     write_bytes((dir.path / "text.png").string(), {'h', 'i'});
-    EXPECT_EQ(picture_file::read((dir.path / "text.png").string(), back), "not a PNG or BMP file");
-    EXPECT_EQ(picture_file::read((dir.path / "none.png").string(), back), "no such file");
+    Picture back;
+    EXPECT_EQ(picture_file::read((dir.path / "huge.bmp").string(), back), "a picture of 60000 x 60000 pixels is too large");
+    EXPECT_EQ(picture_file::read((dir.path / "text.png").string(), back) + picture_file::read("none.png", back),
+              "not a PNG or BMP fileno such file");
 }

@@ -23,10 +23,8 @@ grep -qi sdl <<<"$depends" && fail "SDL3 is bundled, yet the package depends on 
 
 root=$workdir/root
 dpkg -x "$deb" "$root" || fail "dpkg -x failed"
-desktop=$root/usr/share/applications/mosswick.desktop
-grep -qx 'Exec=mosswick %F' "$desktop" || fail "the desktop entry does not pass files"
 type=$(sed -n 's/.*mime-type type="\([^"]*\)".*/\1/p' "$root/usr/share/mime/packages/mosswick.xml")
-grep -qx "MimeType=$type;" "$desktop" || fail "the desktop entry does not open $type"
+grep -qx "MimeType=$type;" "$root/usr/share/applications/mosswick.desktop" || fail "the desktop entry does not open $type"
 listing() { find "$root" -printf '%p %s %T@\n' | sort; }
 installed=$(listing)
 

@@ -10,6 +10,7 @@
 #include <random>
 #include <vector>
 
+#include "model/tile/sheet.h"
 #include "support/scratch_dir.h"
 
 namespace {
@@ -117,6 +118,9 @@ TEST(TilesetFileRoundTrip, RandomTilesetsComeBackByteForByte) {
         std::unique_ptr<Tile_Store> back = Tileset_File::read(path);
         ASSERT_TRUE(back);
         EXPECT_TRUE(same_tiles(store, *back)) << w << " x " << h << ", " << n << " tiles";
+        // The exported sheet cut again, as --tile cuts it, gives the same tiles.
+        const sheet::Cut cut = sheet::cut(sheet::compose(store), w, h);
+        EXPECT_TRUE(cut.tiles && same_tiles(store, *cut.tiles)) << w << " x " << h << ", " << n << " tiles";
         const std::string again = dir.file("again.wst");
         ASSERT_EQ(Tileset_File::write(*back, again), written);
         EXPECT_EQ(read_bytes(path), read_bytes(again));
