@@ -12,7 +12,7 @@ packages=(
     libgtest-dev libgmock-dev googletest libbenchmark-dev
     libx11-dev libxext-dev libxrandr-dev libxcursor-dev libxi-dev libxfixes-dev
     libxss-dev libxkbcommon-dev libdbus-1-dev
-    libtinyxml2-dev libspng-dev
+    libtinyxml2-dev libspng-dev zlib1g-dev libzstd-dev
     xvfb xauth xdotool imagemagick zenity
     clang libclang-rt-14-dev
 )

@@ -14,7 +14,7 @@ case "$seconds" in
 esac
 jobs=$(nproc 2>/dev/null || echo 2)
 build="$root/build-fuzz"
-targets=(tileset_file token_stream palette options_dialog pool_image map_file brush_pad png_file)
+targets=(tileset_file token_stream palette options_dialog pool_image map_file brush_pad png_file layer_data)
 
 sdl_prefix=$(bash "$root/tools/fetch_sdl3.sh" | tail -n 1)
 CC=clang CXX=clang++ cmake -S "$root" -B "$build" -DCMAKE_PREFIX_PATH="$sdl_prefix" \

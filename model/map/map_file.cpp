@@ -10,6 +10,7 @@
 #include <string>
 
 #include "model/core/safe_file.h"
+#include "model/map/layer_data.h"
 #include "model/map/map_editor.h"
 #include "model/map/map_text.h"
 
@@ -36,38 +37,6 @@ void add_problem(Map_File::Reading& r, const std::string& line) {
     if (!r.problems.empty()) r.problems += "\r";
     r.problems += line;
 }
-
-// The cell values of CSV text, one after another; a value that is no
-// unsigned 32-bit number comes as bad.
-class Csv_Cells {
-public:
-    explicit Csv_Cells(const char* text) : at(text ? text : "") {}
-    // False at the end of the text.
-    bool next(uint32_t& value, bool& bad) {
-        while (*at == ' ' || *at == '\n' || *at == '\r' || *at == '\t') ++at;
-        if (*at == '\0') return false;
-        uint64_t number = 0;
-        int digits = 0;
-        bad = false;
-        while (*at != ',' && *at != '\0') {
-            const char c = *at++;
-            if (c == ' ' || c == '\n' || c == '\r' || c == '\t') continue;
-            if (c < '0' || c > '9' || digits >= 10) {
-                bad = true;
-                continue;
-            }
-            number = number * 10 + uint64_t(c - '0');
-            ++digits;
-        }
-        if (*at == ',') ++at;
-        if (digits == 0 || number > 0xFFFFFFFFull) bad = true;
-        value = uint32_t(number);
-        return true;
-    }
-
-private:
-    const char* at;
-};
 
 int attribute(const tinyxml2::XMLElement* e, const char* name, int fallback) {
     int value = fallback;
@@ -155,17 +124,16 @@ void layer_size(const XMLElement* layer, const Tile_Map& map, int& columns, int&
 }  // namespace
 
 namespace {
-std::string csv_of(const Tile_Map& map, int columns, int rows, int first_gid) {
-    std::string csv = "\n";
-    for (int y = 0; y < rows; ++y) {
+// The layer's cells as global tile ids, row by row.
+std::vector<uint32_t> gids_of(const Tile_Map& map, int columns, int rows, int first_gid) {
+    std::vector<uint32_t> gids;
+    gids.reserve(size_t(columns) * size_t(rows));
+    for (int y = 0; y < rows; ++y)
         for (int x = 0; x < columns; ++x) {
             const int tile = map.at(x, y);
-            csv += std::to_string(tile == Tile_Map::empty ? 0 : tile + first_gid);
-            if (x + 1 < columns || y + 1 < rows) csv += ',';
+            gids.push_back(tile == Tile_Map::empty ? 0 : uint32_t(tile + first_gid));
         }
-        csv += '\n';
-    }
-    return csv;
+    return gids;
 }
 
 struct Edit {
@@ -191,7 +159,8 @@ std::string edited(const std::string& source, const Tile_Map& map, uint32_t tile
     int columns = 0;
     int rows = 0;
     layer_size(tile_layer(root_element), map, columns, rows);
-    const std::string csv = csv_of(map, columns, rows, first_gid);
+    const std::vector<uint32_t> gids = gids_of(map, columns, rows, first_gid);
+    const std::string csv = layer_data::encode(gids, columns, layer_data::Encoding::csv);
     const std::string data = "<data encoding=\"csv\">" + csv + "</data>";
 
     std::vector<Edit> edits;
@@ -221,11 +190,13 @@ std::string edited(const std::string& source, const Tile_Map& map, uint32_t tile
             if (!cells.found) {
                 edits.push_back({layer.content_end, 0, data});
             } else {
+                // Written back in the encoding it was read in.
                 const std::string data_tag = source.substr(cells.tag_begin, cells.tag_end - cells.tag_begin);
-                const bool csv_already = map_text::attribute(data_tag, "encoding") == "csv" &&
-                                         map_text::attribute(data_tag, "compression").empty() && !cells.empty;
-                if (csv_already)
-                    edits.push_back({cells.tag_end, cells.content_end - cells.tag_end, csv});
+                layer_data::Encoding kept = layer_data::Encoding::csv;
+                if (!cells.empty && layer_data::encoding_of(map_text::attribute(data_tag, "encoding"),
+                                                            map_text::attribute(data_tag, "compression"), kept))
+                    edits.push_back({cells.tag_end, cells.content_end - cells.tag_end,
+                                     layer_data::encode(gids, columns, kept)});
                 else
                     edits.push_back({cells.tag_begin, cells.end - cells.tag_begin, data});
             }
@@ -275,7 +246,13 @@ std::string edited(const std::string& source, const Tile_Map& map, uint32_t tile
     const XMLElement* written_layer = tile_layer(check.RootElement());
     const XMLElement* written_data = written_layer ? written_layer->FirstChildElement("data") : nullptr;
     const char* written_cells = written_data ? written_data->GetText() : nullptr;
-    if (!written_cells || csv != written_cells) return {};
+    layer_data::Encoding written_encoding;
+    if (!written_cells || !layer_data::encoding_of(written_data->Attribute("encoding") ? written_data->Attribute("encoding") : "",
+                                                   written_data->Attribute("compression") ? written_data->Attribute("compression") : "",
+                                                   written_encoding))
+        return {};
+    const layer_data::Decoded back = layer_data::decode(written_cells, written_encoding, gids.size());
+    if (!back.failure.empty() || back.bad > 0 || back.cells != gids) return {};
     return out;
 }
 
@@ -289,7 +266,8 @@ std::string new_file(const Tile_Map& map, uint32_t tile_width, uint32_t tile_hei
     root->SetAttribute("height", map.rows());
     XMLElement* data = layer->InsertNewChildElement("data");
     data->SetAttribute("encoding", "csv");
-    data->SetText(csv_of(map, map.columns(), map.rows(), 1).c_str());
+    data->SetText(
+        layer_data::encode(gids_of(map, map.columns(), map.rows(), 1), map.columns(), layer_data::Encoding::csv).c_str());
     XMLPrinter printer;
     doc.Print(&printer);
     return std::string(printer.CStr(), size_t(printer.CStrSize() > 0 ? printer.CStrSize() - 1 : 0));
@@ -373,9 +351,16 @@ Map_File::Reading Map_File::read(const std::string& path, Map_Editor& into, uint
     const int columns = attribute(layer, "width", attribute(root, "width", 0));
     const int rows = attribute(layer, "height", attribute(root, "height", 0));
     const XMLElement* data = layer->FirstChildElement("data");
-    const char* encoding = data ? data->Attribute("encoding") : nullptr;
-    if (!data || !encoding || std::string(encoding) != "csv" || data->FirstChildElement()) {
-        add_problem(r, "Its tile layer is not stored as CSV, so no cell was read.");
+    const char* encoding_text = data ? data->Attribute("encoding") : nullptr;
+    const char* compression_text = data ? data->Attribute("compression") : nullptr;
+    layer_data::Encoding encoding;
+    if (!data || data->FirstChildElement() ||
+        !layer_data::encoding_of(encoding_text ? encoding_text : "", compression_text ? compression_text : "",
+                                 encoding)) {
+        add_problem(r, "Its tile layer is stored in a way this editor does not read (" +
+                           std::string(encoding_text ? encoding_text : "XML") +
+                           (compression_text ? std::string(", ") + compression_text : std::string()) +
+                           "), so no cell was read.");
         return r;
     }
     if (columns <= 0 || rows <= 0) {
@@ -388,21 +373,20 @@ Map_File::Reading Map_File::read(const std::string& path, Map_Editor& into, uint
                            " cells do not fit this map of " + std::to_string(map.columns()) + " x " +
                            std::to_string(map.rows()) + "; the rest was left out.");
 
-    Csv_Cells cells(data->GetText());
-    long long read_count = 0;
     const long long expected = (long long)columns * rows;
-    int bad = 0;
+    // A size that lies cannot make a small layer unpack into gigabytes.
+    const layer_data::Decoded cells = layer_data::decode(data->GetText() ? data->GetText() : "", encoding,
+                                                         size_t(std::min(expected, layer_data::most_cells)));
+    if (!cells.failure.empty()) {
+        add_problem(r, "Its tile layer could not be unpacked: " + cells.failure + ", so no cell was read.");
+        return r;
+    }
+    const long long read_count = (long long)cells.cells.size();
+    const int bad = cells.bad;
     int unknown = 0;
     int flipped = 0;
-    uint32_t value = 0;
-    bool not_number = false;
-    while (cells.next(value, not_number)) {
-        const long long index = read_count++;
-        if (index >= expected) continue;
-        if (not_number) {
-            ++bad;
-            continue;
-        }
+    for (long long index = 0; index < std::min(read_count, expected); ++index) {
+        const uint32_t value = cells.cells[size_t(index)];
         if (value & flag_bits) ++flipped;
         const long long gid = value & ~flag_bits;
         if (gid == 0) continue;
