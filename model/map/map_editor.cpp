@@ -1,5 +1,6 @@
 #include "model/map/map_editor.h"
 
+#include <algorithm>
 #include <utility>
 
 #include "model/core/line_walk.h"
@@ -9,13 +10,15 @@ namespace {
 struct Map_Uses : Tile_Uses {
     std::vector<int> cells;
     int mark = 0;
+    Terrain_Set::Corners terrain{};
 };
 
 int cells_for(uint32_t tile_extent) { return Map_Editor::extent / int(tile_extent == 0 ? 1 : tile_extent); }
 }  // namespace
 
 Map_Editor::Map_Editor(uint32_t tile_width, uint32_t tile_height)
-    : cells(cells_for(tile_width), cells_for(tile_height)) {}
+    : cells(cells_for(tile_width), cells_for(tile_height)),
+      corners(cells_for(tile_width) + 1, cells_for(tile_height) + 1) {}
 
 void Map_Editor::begin_stroke() {
     if (stroking) end_stroke();
@@ -31,6 +34,57 @@ void Map_Editor::set_cell(int cell, int tile) {
     open_edit.cells.push_back(Map_Edit::Cell{cell, before, after});
     ++changes;
     count_edit();
+}
+
+void Map_Editor::set_corner(int corner, int terrain) {
+    const int before = corners.at(corner);
+    const int after = terrain <= 0 ? Tile_Map::empty : terrain;
+    if (before == after) return;
+    corners.set(corner, after);
+    open_edit.corners.push_back(Map_Edit::Cell{corner, before, after});
+    ++changes;
+}
+
+Terrain_Set::Corners Map_Editor::wanted(int x, int y) const {
+    auto at = [&](int cx, int cy) { return uint8_t(std::max(0, corners.at(cx, cy))); };
+    return Terrain_Set::Corners{at(x, y), at(x + 1, y), at(x + 1, y + 1), at(x, y + 1)};
+}
+
+bool Map_Editor::is_missing(int x, int y) const {
+    const Terrain_Set::Corners w = wanted(x, y);
+    return terrains.complete(w) && terrains.tile_for(w, x, y) < 0;
+}
+
+void Map_Editor::paint_terrain(int corner_x, int corner_y, int terrain) {
+    if (corners.is_outside(corner_x, corner_y) || terrain < 1 || terrain > terrains.terrain_count()) return;
+    if (!stroking) begin_stroke();
+    set_corner(corner_y * corners.columns() + corner_x, terrain);
+    for (int y = corner_y - 1; y <= corner_y; ++y)
+        for (int x = corner_x - 1; x <= corner_x; ++x) {
+            if (cells.is_outside(x, y)) continue;
+            // Corners never painted take what the cell's tile has there, or this terrain.
+            const Terrain_Set::Corners has = terrains.corners(cells.at(x, y));
+            const int around[4][2] = {{x, y}, {x + 1, y}, {x + 1, y + 1}, {x, y + 1}};
+            for (int k = 0; k < 4; ++k)
+                if (corners.at(around[k][0], around[k][1]) == Tile_Map::empty)
+                    set_corner(around[k][1] * corners.columns() + around[k][0], has[k] != 0 ? has[k] : terrain);
+            set_cell(y * cells.columns() + x, terrains.tile_for(wanted(x, y), x, y));
+        }
+}
+
+bool Map_Editor::set_terrain(const Terrain_Set& set) {
+    end_stroke();
+    terrains = set;
+    ++changes;
+    count_edit();  // the set is kept in the map file
+    begin_stroke();
+    for (int y = 0; y < cells.rows(); ++y)
+        for (int x = 0; x < cells.columns(); ++x) {
+            const Terrain_Set::Corners w = wanted(x, y);
+            if (cells.at(x, y) == Tile_Map::empty && terrains.complete(w))
+                set_cell(y * cells.columns() + x, terrains.tile_for(w, x, y));
+        }
+    return end_stroke();
 }
 
 void Map_Editor::paint(int x, int y, int tile) {
@@ -78,7 +132,7 @@ bool Map_Editor::fill(int x, int y, int tile) {
 
 bool Map_Editor::undo() {
     end_stroke();
-    if (!steps.undo(cells)) return false;
+    if (!steps.undo(cells, corners)) return false;
     ++changes;
     count_edit();
     return true;
@@ -86,7 +140,7 @@ bool Map_Editor::undo() {
 
 bool Map_Editor::redo() {
     end_stroke();
-    if (!steps.redo(cells)) return false;
+    if (!steps.redo(cells, corners)) return false;
     ++changes;
     count_edit();
     return true;
@@ -118,6 +172,7 @@ void Map_Editor::tile_inserted(int index) {
     end_stroke();
     if (cells.tile_inserted(index)) count_edit();
     steps.tile_inserted(index);
+    terrains.tile_inserted(index);
     ++changes;
 }
 
@@ -125,6 +180,7 @@ void Map_Editor::tile_removed(int index) {
     end_stroke();
     if (cells.tile_removed(index)) count_edit();
     steps.tile_removed(index);
+    terrains.tile_removed(index);
     ++changes;
 }
 
@@ -132,6 +188,7 @@ void Map_Editor::tiles_swapped(int a, int b) {
     end_stroke();
     if (cells.tiles_swapped(a, b)) count_edit();
     steps.tiles_swapped(a, b);
+    terrains.tiles_swapped(a, b);
     ++changes;
 }
 
@@ -141,6 +198,7 @@ std::unique_ptr<Tile_Uses> Map_Editor::tile_leaving(int index) {
     for (int c = 0; c < cells.cell_count(); ++c)
         if (cells.at(c) == index) uses->cells.push_back(c);
     uses->mark = next_mark--;
+    uses->terrain = terrains.corners(index);
     steps.leaving(index, uses->mark);
     return uses;
 }
@@ -155,6 +213,7 @@ void Map_Editor::tile_returned(int index, const Tile_Uses& uses) {
             count_edit();
         }
     steps.returned(map_uses->mark, index);
+    terrains.set_corners(index, map_uses->terrain);
     ++changes;
 }
 

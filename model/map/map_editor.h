@@ -8,6 +8,7 @@
 #include "model/core/safe_file.h"
 #include "model/tile/tile_store.h"
 #include "model/map/map_history.h"
+#include "model/map/terrain_set.h"
 #include "model/map/tile_map.h"
 
 // A tileset's map: its cells and their history. The map is made for
@@ -22,6 +23,11 @@ public:
     Map_Editor(uint32_t tile_width, uint32_t tile_height);
 
     const Tile_Map& map() const { return cells; }
+    // The terrain set painted with, and the terrain at each corner of the
+    // map's cells ((columns + 1) x (rows + 1) of them; empty where none was
+    // painted).
+    const Terrain_Set& terrain() const { return terrains; }
+    const Tile_Map& terrain_corners() const { return corners; }
     const Map_History& history() const { return steps; }
     // Changes with every change of the cells, so a view knows to compose again.
     uint64_t generation() const { return changes; }
@@ -38,6 +44,21 @@ public:
     bool fill(int x, int y, int tile);
     bool undo();
     bool redo();
+
+    // Paints the terrain at a corner of the cells: the four cells around it
+    // take the tile whose corners match (their other corners keep the
+    // terrain they had, or take this one where they had none); a cell whose
+    // combination has no tile yet is left empty and counts as missing. Part
+    // of the open stroke.
+    void paint_terrain(int corner_x, int corner_y, int terrain);
+    // The terrains the cell's corners want (0 where none).
+    Terrain_Set::Corners wanted(int x, int y) const;
+    // A cell whose four corners were painted but whose combination has no tile.
+    bool is_missing(int x, int y) const;
+    // The set's tiles change (corners marked on a tile, terrains added or
+    // taken away): cells left empty for a combination that now has a tile
+    // get it, as one step to undo. True when a cell changed.
+    bool set_terrain(const Terrain_Set& set);
 
     // The cells of another map, where they fit, placed without history; the
     // number of placed cells that did not fit.
@@ -68,7 +89,11 @@ private:
     void set_cell(int cell, int tile);
     void count_edit();
 
+    void set_corner(int corner, int terrain);
+
     Tile_Map cells;
+    Tile_Map corners;
+    Terrain_Set terrains;
     Map_History steps;
     Map_Edit open_edit;
     bool stroking = false;

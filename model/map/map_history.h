@@ -14,6 +14,8 @@ struct Map_Edit {
         int after;
     };
     std::vector<Cell> cells;
+    // Terrains set at the map's corners (terrain numbers, not tiles).
+    std::vector<Cell> corners;
 };
 
 // The map's own undo and redo, apart from the tileset's history: map edits
@@ -29,8 +31,8 @@ public:
 
     // A new edit drops whatever could be redone.
     void record(Map_Edit edit);
-    bool undo(Tile_Map& map);
-    bool redo(Tile_Map& map);
+    bool undo(Tile_Map& map, Tile_Map& corners);
+    bool redo(Tile_Map& map, Tile_Map& corners);
     bool can_undo() const { return done.size() > 0; }
     size_t cells_kept() const { return kept_cells; }
     bool can_redo() const { return undone.size() > 0; }
