@@ -58,7 +58,7 @@ bool save_map(Tileset& tileset) {
     }
     const bool map_needed = !own || !map.is_saved() || changed_on_disk || !exists;
     if (written && map_needed)
-        written = Map_File::write(map.map(), store.tile_width(), store.tile_height(), path, source);
+        written = Map_File::write(map.map(), store.tile_width(), store.tile_height(), path, source, &map.terrain());
     if (!written) {
         const std::string text = "Could not save the map beside the tileset as " + file_name(path) + ".";
         g_message_box->show_message("Error", text.c_str());

@@ -70,7 +70,8 @@ void save_open_work() {
             Image sheet(16 * store.tile_width(), 16 * store.tile_height());
             compose_sheet(store, sheet);
             sheet.save_bmp(Map_File::sheet_path(path), false);
-            Map_File::write(t.map().map(), store.tile_width(), store.tile_height(), Map_File::map_path(path));
+            Map_File::write(t.map().map(), store.tile_width(), store.tile_height(), Map_File::map_path(path), {},
+                            &t.map().terrain());
         }
     }
 }

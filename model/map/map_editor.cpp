@@ -87,6 +87,18 @@ bool Map_Editor::set_terrain(const Terrain_Set& set) {
     return end_stroke();
 }
 
+void Map_Editor::place_terrain(const Terrain_Set& set) {
+    terrains = set;
+    for (int y = 0; y < cells.rows(); ++y)
+        for (int x = 0; x < cells.columns(); ++x) {
+            const Terrain_Set::Corners c = terrains.corners(cells.at(x, y));
+            const int around[4][2] = {{x, y}, {x + 1, y}, {x + 1, y + 1}, {x, y + 1}};
+            for (int k = 0; k < 4; ++k)
+                if (c[size_t(k)] != 0) corners.set(around[k][0], around[k][1], c[size_t(k)]);
+        }
+    ++changes;
+}
+
 void Map_Editor::paint(int x, int y, int tile) {
     if (cells.is_outside(x, y)) return;
     if (!stroking) begin_stroke();

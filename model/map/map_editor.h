@@ -59,6 +59,9 @@ public:
     // taken away): cells left empty for a combination that now has a tile
     // get it, as one step to undo. True when a cell changed.
     bool set_terrain(const Terrain_Set& set);
+    // The set as a map file keeps it, placed without history; the corners of
+    // cells holding tiles of the set take those tiles' terrains.
+    void place_terrain(const Terrain_Set& set);
 
     // The cells of another map, where they fit, placed without history; the
     // number of placed cells that did not fit.

@@ -13,6 +13,7 @@
 #include "model/map/layer_data.h"
 #include "model/map/map_editor.h"
 #include "model/map/map_text.h"
+#include "model/map/terrain_file.h"
 
 namespace {
 // Tiled keeps flip and rotation flags in a cell's top bits.
@@ -142,10 +143,46 @@ struct Edit {
     std::string text;
 };
 
-// The source with only the map's tag and its first tile layer's cells
-// replaced; empty when the source is no map this can edit.
+// The terrain set's wang set in the tileset's text: replaced, added or taken
+// away; a tileset kept in a file of its own (a "source") keeps its own.
+void edit_terrain(const std::string& source, const map_text::Element& tileset, const Terrain_Set& terrain,
+                  std::vector<Edit>& edits) {
+    const std::string tileset_tag = source.substr(tileset.tag_begin, tileset.tag_end - tileset.tag_begin);
+    const std::string ours = terrain.is_empty() ? std::string() : terrain_file::wangset_text(terrain, "   ");
+    if (tileset.empty) {
+        if (ours.empty() || !map_text::attribute(tileset_tag, "source").empty()) return;
+        const size_t close = tileset_tag.rfind("/>");
+        edits.push_back({tileset.tag_begin, tileset_tag.size(),
+                         tileset_tag.substr(0, close) + ">\n  <wangsets>\n   " + ours + "\n  </wangsets>\n </tileset>"});
+        return;
+    }
+    const map_text::Element sets = map_text::child(source, tileset.tag_end, tileset.content_end, "wangsets");
+    if (!sets.found || sets.empty) {
+        if (ours.empty()) return;
+        const std::string block = " <wangsets>\n   " + ours + "\n  </wangsets>\n ";
+        if (sets.found)
+            edits.push_back({sets.tag_begin, sets.end - sets.tag_begin, block});
+        else
+            edits.push_back({tileset.content_end, 0, block});
+        return;
+    }
+    for (size_t from = sets.tag_end;;) {
+        const map_text::Element set = map_text::child(source, from, sets.content_end, "wangset");
+        if (!set.found) break;
+        if (map_text::attribute(source.substr(set.tag_begin, set.tag_end - set.tag_begin), "type") == "corner") {
+            edits.push_back({set.tag_begin, set.end - set.tag_begin, ours});
+            return;
+        }
+        from = set.end;
+    }
+    if (!ours.empty()) edits.push_back({sets.content_end, 0, " " + ours + "\n  "});
+}
+
+// The source with only the map's tag, its first tile layer's cells and the
+// terrain set (when given and changed) replaced; empty when the source is no
+// map this can edit.
 std::string edited(const std::string& source, const Tile_Map& map, uint32_t tile_width, uint32_t tile_height,
-                   const std::string& sheet) {
+                   const std::string& sheet, const Terrain_Set* terrain) {
     XMLDocument doc;
     if (doc.Parse(source.c_str(), source.size()) != XML_SUCCESS || !doc.RootElement() ||
         std::string(doc.RootElement()->Name()) != "map")
@@ -224,6 +261,13 @@ std::string edited(const std::string& source, const Tile_Map& map, uint32_t tile
             edits.push_back({image.tag_begin, image_tag.size(), i});
         }
     }
+    if (terrain && tileset.found) {
+        Terrain_Set in_file;
+        std::string ignored;
+        const bool had =
+            terrain_file::read(root_element->FirstChildElement("tileset"), 1 << 30, in_file, ignored);
+        if (had ? !(in_file == *terrain) : !terrain->is_empty()) edit_terrain(source, tileset, *terrain, edits);
+    }
     // A loader of one game engine refuses maps without it.
     if (map_text::attribute(root_tag, "tiledversion").empty())
         root_tag = map_text::with_attribute(root_tag, "tiledversion", Map_File::tiled_version);
@@ -256,9 +300,15 @@ std::string edited(const std::string& source, const Tile_Map& map, uint32_t tile
     return out;
 }
 
-std::string new_file(const Tile_Map& map, uint32_t tile_width, uint32_t tile_height, const std::string& path) {
+std::string new_file(const Tile_Map& map, uint32_t tile_width, uint32_t tile_height, const std::string& path,
+                     const Terrain_Set* terrain) {
     XMLDocument doc;
     XMLElement* root = new_map(doc, file_name(Map_File::sheet_path(path)), tile_width, tile_height);
+    if (terrain && !terrain->is_empty()) {
+        XMLDocument piece;
+        piece.Parse(("<wangsets>" + terrain_file::wangset_text(*terrain, "") + "</wangsets>").c_str());
+        if (piece.RootElement()) root->FirstChildElement("tileset")->InsertEndChild(piece.RootElement()->DeepClone(&doc));
+    }
     XMLElement* layer = add_tile_layer(root);
     layer->SetAttribute("width", map.columns());
     layer->SetAttribute("height", map.rows());
@@ -275,10 +325,10 @@ std::string new_file(const Tile_Map& map, uint32_t tile_width, uint32_t tile_hei
 }  // namespace
 
 bool Map_File::write(const Tile_Map& map, uint32_t tile_width, uint32_t tile_height, const std::string& path,
-                     const std::string& source) {
-    std::string text =
-        source.empty() ? std::string() : edited(source, map, tile_width, tile_height, file_name(sheet_path(path)));
-    if (text.empty()) text = new_file(map, tile_width, tile_height, path);
+                     const std::string& source, const Terrain_Set* terrain) {
+    std::string text = source.empty() ? std::string()
+                                      : edited(source, map, tile_width, tile_height, file_name(sheet_path(path)), terrain);
+    if (text.empty()) text = new_file(map, tile_width, tile_height, path, terrain);
     // A derived name: never written through a link there.
     return safe_file::written(
         path, [&](std::FILE* file) { return std::fwrite(text.data(), 1, text.size(), file) == text.size(); },
@@ -305,6 +355,85 @@ std::string Map_File::text_of(const std::string& path) {
     std::fclose(file);
     return text;
 }
+
+namespace {
+// The cells of the first tile layer; the reading's whole flag is left to the caller.
+void read_layer(const tinyxml2::XMLElement* root, const tinyxml2::XMLElement* tileset, Map_Editor& into,
+                int tile_count, Map_File::Reading& r) {
+    using namespace tinyxml2;
+    const int first_gid = attribute(tileset, "firstgid", 1);
+    if (attribute(root, "infinite", 0) != 0) {
+        add_problem(r, "It is an infinite map, kept in chunks; this editor reads maps of a fixed size only, so no cell was read.");
+        return;
+    }
+    const XMLElement* layer = root->FirstChildElement("layer");
+    // A map without a tile layer is a blank map here; writing adds one.
+    if (!layer) return;
+    const int columns = attribute(layer, "width", attribute(root, "width", 0));
+    const int rows = attribute(layer, "height", attribute(root, "height", 0));
+    const XMLElement* data = layer->FirstChildElement("data");
+    const char* encoding_text = data ? data->Attribute("encoding") : nullptr;
+    const char* compression_text = data ? data->Attribute("compression") : nullptr;
+    layer_data::Encoding encoding;
+    if (!data || data->FirstChildElement() ||
+        !layer_data::encoding_of(encoding_text ? encoding_text : "", compression_text ? compression_text : "",
+                                 encoding)) {
+        add_problem(r, "Its tile layer is stored in a way this editor does not read (" +
+                           std::string(encoding_text ? encoding_text : "XML") +
+                           (compression_text ? std::string(", ") + compression_text : std::string()) +
+                           "), so no cell was read.");
+        return;
+    }
+    if (columns <= 0 || rows <= 0) {
+        add_problem(r, "Its tile layer has no valid size, so no cell was read.");
+        return;
+    }
+    const Tile_Map& map = into.map();
+    if (columns > map.columns() || rows > map.rows())
+        add_problem(r, "Its " + std::to_string(columns) + " x " + std::to_string(rows) +
+                           " cells do not fit this map of " + std::to_string(map.columns()) + " x " +
+                           std::to_string(map.rows()) + "; the rest was left out.");
+
+    const long long expected = (long long)columns * rows;
+    // A size that lies cannot make a small layer unpack into gigabytes.
+    const layer_data::Decoded cells = layer_data::decode(data->GetText() ? data->GetText() : "", encoding,
+                                                         size_t(std::min(expected, layer_data::most_cells)));
+    if (!cells.failure.empty()) {
+        add_problem(r, "Its tile layer could not be unpacked: " + cells.failure + ", so no cell was read.");
+        return;
+    }
+    const long long read_count = (long long)cells.cells.size();
+    const int bad = cells.bad;
+    int unknown = 0;
+    int flipped = 0;
+    for (long long index = 0; index < std::min(read_count, expected); ++index) {
+        const uint32_t value = cells.cells[size_t(index)];
+        if (value & flag_bits) ++flipped;
+        const long long gid = value & ~flag_bits;
+        if (gid == 0) continue;
+        const long long tile = gid - first_gid;
+        const int x = int(index % columns);
+        const int y = int(index / columns);
+        if (tile < 0 || tile >= tile_count) {
+            ++unknown;
+            continue;
+        }
+        if (map.is_outside(x, y)) continue;
+        into.place(x, y, int(tile));
+        ++r.cells;
+    }
+    if (bad > 0) add_problem(r, std::to_string(bad) + " cells held no valid number and were left empty.");
+    if (unknown > 0)
+        add_problem(r, std::to_string(unknown) + " cells named tiles this tileset does not have and were left empty.");
+    if (flipped > 0) add_problem(r, std::to_string(flipped) + " cells were flipped or turned; they show unturned.");
+    if (read_count < expected)
+        add_problem(r, "Its tile layer ends after " + std::to_string(read_count) + " of " + std::to_string(expected) +
+                           " cells.");
+    else if (read_count > expected)
+        add_problem(r, "Its tile layer holds more cells than its size; the extra ones were left out.");
+}
+}  // namespace
+
 
 Map_File::Reading Map_File::read(const std::string& path, Map_Editor& into, uint32_t tile_width,
                                  uint32_t tile_height, int tile_count) {
@@ -337,79 +466,11 @@ Map_File::Reading Map_File::read(const std::string& path, Map_Editor& into, uint
     // further tile layers and tilesets, properties) is kept as the file has
     // it when the map is written back, so it is no loss to leave it aside.
     const XMLElement* tileset = root->FirstChildElement("tileset");
-    const int first_gid = attribute(tileset, "firstgid", 1);
-    if (attribute(root, "infinite", 0) != 0) {
-        add_problem(r, "It is an infinite map, kept in chunks; this editor reads maps of a fixed size only, so no cell was read.");
-        return r;
-    }
-    const XMLElement* layer = root->FirstChildElement("layer");
-    // A map without a tile layer is a blank map here; writing adds one.
-    if (!layer) {
-        r.whole = r.problems.empty();
-        return r;
-    }
-    const int columns = attribute(layer, "width", attribute(root, "width", 0));
-    const int rows = attribute(layer, "height", attribute(root, "height", 0));
-    const XMLElement* data = layer->FirstChildElement("data");
-    const char* encoding_text = data ? data->Attribute("encoding") : nullptr;
-    const char* compression_text = data ? data->Attribute("compression") : nullptr;
-    layer_data::Encoding encoding;
-    if (!data || data->FirstChildElement() ||
-        !layer_data::encoding_of(encoding_text ? encoding_text : "", compression_text ? compression_text : "",
-                                 encoding)) {
-        add_problem(r, "Its tile layer is stored in a way this editor does not read (" +
-                           std::string(encoding_text ? encoding_text : "XML") +
-                           (compression_text ? std::string(", ") + compression_text : std::string()) +
-                           "), so no cell was read.");
-        return r;
-    }
-    if (columns <= 0 || rows <= 0) {
-        add_problem(r, "Its tile layer has no valid size, so no cell was read.");
-        return r;
-    }
-    const Tile_Map& map = into.map();
-    if (columns > map.columns() || rows > map.rows())
-        add_problem(r, "Its " + std::to_string(columns) + " x " + std::to_string(rows) +
-                           " cells do not fit this map of " + std::to_string(map.columns()) + " x " +
-                           std::to_string(map.rows()) + "; the rest was left out.");
-
-    const long long expected = (long long)columns * rows;
-    // A size that lies cannot make a small layer unpack into gigabytes.
-    const layer_data::Decoded cells = layer_data::decode(data->GetText() ? data->GetText() : "", encoding,
-                                                         size_t(std::min(expected, layer_data::most_cells)));
-    if (!cells.failure.empty()) {
-        add_problem(r, "Its tile layer could not be unpacked: " + cells.failure + ", so no cell was read.");
-        return r;
-    }
-    const long long read_count = (long long)cells.cells.size();
-    const int bad = cells.bad;
-    int unknown = 0;
-    int flipped = 0;
-    for (long long index = 0; index < std::min(read_count, expected); ++index) {
-        const uint32_t value = cells.cells[size_t(index)];
-        if (value & flag_bits) ++flipped;
-        const long long gid = value & ~flag_bits;
-        if (gid == 0) continue;
-        const long long tile = gid - first_gid;
-        const int x = int(index % columns);
-        const int y = int(index / columns);
-        if (tile < 0 || tile >= tile_count) {
-            ++unknown;
-            continue;
-        }
-        if (map.is_outside(x, y)) continue;
-        into.place(x, y, int(tile));
-        ++r.cells;
-    }
-    if (bad > 0) add_problem(r, std::to_string(bad) + " cells held no valid number and were left empty.");
-    if (unknown > 0)
-        add_problem(r, std::to_string(unknown) + " cells named tiles this tileset does not have and were left empty.");
-    if (flipped > 0) add_problem(r, std::to_string(flipped) + " cells were flipped or turned; they show unturned.");
-    if (read_count < expected)
-        add_problem(r, "Its tile layer ends after " + std::to_string(read_count) + " of " + std::to_string(expected) +
-                           " cells.");
-    else if (read_count > expected)
-        add_problem(r, "Its tile layer holds more cells than its size; the extra ones were left out.");
+    read_layer(root, tileset, into, tile_count, r);
+    Terrain_Set terrain;
+    std::string terrain_problems;
+    if (terrain_file::read(tileset, tile_count, terrain, terrain_problems)) into.place_terrain(terrain);
+    if (!terrain_problems.empty()) add_problem(r, terrain_problems);
     r.whole = r.problems.empty();
     return r;
 }

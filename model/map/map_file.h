@@ -4,6 +4,7 @@
 #include <string>
 
 class Map_Editor;
+class Terrain_Set;
 class Tile_Map;
 
 // The map kept beside its tileset as NAME.tmx, in the map format of the Tiled
@@ -29,8 +30,10 @@ public:
     // stays as it is: objects, other layers, tilesets, properties. False when
     // the file could not be written (a link there counts as a failure); a
     // failed write leaves any previous file as it was.
+    // A terrain set given is kept in the map's tileset as its corner wang
+    // set (replacing the one there, and only when it differs from it).
     static bool write(const Tile_Map& map, uint32_t tile_width, uint32_t tile_height, const std::string& path,
-                      const std::string& source = {});
+                      const std::string& source = {}, const Terrain_Set* terrain = nullptr);
     // Whether the map text draws tiles from an image of that file name.
     static bool uses_sheet(const std::string& source, const std::string& sheet_name);
     // The bytes of a regular file; empty for anything else.

@@ -25,6 +25,13 @@ uint32_t mix(uint32_t h) {
 }
 }  // namespace
 
+bool Terrain_Set::operator==(const Terrain_Set& other) const {
+    if (name != other.name || members != other.members || terrains.size() != other.terrains.size()) return false;
+    for (size_t i = 0; i < terrains.size(); ++i)
+        if (terrains[i].name != other.terrains[i].name || !(terrains[i].color == other.terrains[i].color)) return false;
+    return true;
+}
+
 bool Terrain_Set::add_terrain() {
     const int n = terrain_count();
     if (n >= most_terrains) return false;

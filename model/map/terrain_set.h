@@ -30,6 +30,9 @@ public:
     std::string name = "Terrain";
     std::vector<Terrain> terrains;
 
+    bool operator==(const Terrain_Set& other) const;
+    bool is_empty() const { return terrains.empty() && members.empty(); }
+
     int terrain_count() const { return int(terrains.size()); }
     // A new terrain with a name and colour of its own; false when there are
     // most_terrains already.

@@ -118,6 +118,40 @@ TEST(MapFile, EveryLayerEncodingIsReadAndWrittenBackInItsOwn) {
     }
 }
 
+TEST(MapFile, TheTerrainSetIsACornerWangSetOfTheTilesetAndComesBack) {
+    Scratch_Dir dir;
+    const std::string path = dir.file("t.tmx");
+    Map_Editor m(24, 24);
+    Terrain_Set set;
+    set.add_terrain(), set.add_terrain();
+    set.name = "Shore & sea";
+    set.set_corners(0, {1, 1, 1, 1});
+    set.set_corners(4, {1, 1, 2, 1});
+    m.set_terrain(set);
+    m.place(2, 2, 4);
+    ASSERT_TRUE(Map_File::write(m.map(), 24, 24, path, {}, &m.terrain()));
+    const std::string text = Map_File::text_of(path);
+    EXPECT_NE(text.find("name=\"Shore &amp; sea\" type=\"corner\""), std::string::npos) << text;
+    EXPECT_NE(text.find("<wangtile tileid=\"4\" wangid=\"0,1,0,2,0,1,0,1\"/>"), std::string::npos) << text;
+    Map_Editor back(24, 24);
+    EXPECT_TRUE(Map_File::read(path, back, 24, 24, 10).whole);
+    EXPECT_TRUE(back.terrain() == set);
+    EXPECT_EQ(back.wanted(2, 2), (Terrain_Set::Corners{1, 1, 2, 1})) << "corners follow the tiles read";
+
+    // Another tool's tileset with a wang set of edges: kept, ours added; the
+    // same set written again leaves the file as it is.
+    write_text(path, "<map width=\"4\" height=\"3\" tilewidth=\"24\" tileheight=\"24\"><tileset firstgid=\"1\">"
+                     "<wangsets><wangset name=\"roads\" type=\"edge\"><wangcolor name=\"r\"/></wangset></wangsets>"
+                     "</tileset><layer width=\"4\" height=\"3\"><data encoding=\"csv\">1,0,0,0,0,0,0,0,0,0,0,0</data></layer></map>");
+    ASSERT_TRUE(Map_File::write(m.map(), 24, 24, path, Map_File::text_of(path), &m.terrain()));
+    const std::string kept = Map_File::text_of(path);
+    EXPECT_NE(kept.find("<wangset name=\"roads\" type=\"edge\"><wangcolor name=\"r\"/></wangset>"), std::string::npos);
+    ASSERT_TRUE(Map_File::write(m.map(), 24, 24, path, kept, &m.terrain()));
+    EXPECT_EQ(Map_File::text_of(path), kept);
+    EXPECT_TRUE(Map_File::read(path, back, 24, 24, 10).whole);
+    EXPECT_TRUE(back.terrain() == set);
+}
+
 TEST(MapFile, DamagedAndForeignFilesAreReadAsFarAsTheyAreValid) {
     Scratch_Dir dir;
     const std::string path = dir.file("cave.tmx");
