@@ -6,6 +6,7 @@
 #include "platform/main_window.h"
 #include "platform/texture.h"
 #include "model/tile/tile_store.h"
+#include "model/core/line_walk.h"
 #include "model/map/map_editor.h"
 #include "ui/backdrop.h"
 #include "ui/modal_loop.h"
@@ -95,6 +96,31 @@ int Map_View::chooser_hit(float x, float y) const {
     return index < store.tile_count() ? index : -1;
 }
 
+Rectangle Map_View::terrain_swatch(int which) const {
+    const Rectangle c = chooser();
+    constexpr int size = 20;
+    return Rectangle{c.x + (which - 1) * (size + 4), c.y + chooser_size + 10, size, size};
+}
+
+Rectangle Map_View::missing_area() const {
+    const Rectangle plus = terrain_swatch(Terrain_Set::most_terrains + 1);
+    const Rectangle c = chooser();
+    return Rectangle{plus.x + plus.width + 16, plus.y, c.x + c.width - (plus.x + plus.width + 16), plus.height};
+}
+
+const std::vector<int>& Map_View::missing_cells() {
+    if (missing_generation != editor.generation()) {
+        missing.clear();
+        const Tile_Map& map = editor.map();
+        if (editor.terrain().terrain_count() > 0)
+            for (int y = 0; y < map.rows(); ++y)
+                for (int x = 0; x < map.columns(); ++x)
+                    if (editor.is_missing(x, y)) missing.push_back(y * map.columns() + x);
+        missing_generation = editor.generation();
+    }
+    return missing;
+}
+
 const std::vector<Seam>& Map_View::seam_list() {
     if (checked_generation != editor.generation()) {
         checker.run(editor.map(), store);
@@ -126,6 +152,7 @@ bool Map_View::handle(const SDL_Event& event) {
                 case SDLK_P: push_button(button_paint); break;
                 case SDLK_F: push_button(button_fill); break;
                 case SDLK_E: push_button(button_eraser); break;
+                case SDLK_T: push_button(button_terrain); break;
                 case SDLK_G: push_button(button_grid); break;
                 case SDLK_S: push_button(button_seams); break;
                 case SDLK_Z:
@@ -165,9 +192,60 @@ void Map_View::choose(int tile) {
     picked = true;
 }
 
+// The corner nearest the point: the terrain tool paints corners, not cells.
+void Map_View::paint_terrain_at(float x, float y) {
+    const Rectangle p = picture();
+    const int cw = int(store.tile_width()) * factor;
+    const int ch = int(store.tile_height()) * factor;
+    const int cx = (int(x) - p.x + cw / 2) / cw;
+    const int cy = (int(y) - p.y + ch / 2) / ch;
+    if (last_corner_x < 0) last_corner_x = cx, last_corner_y = cy;
+    for_each_line_point(last_corner_x, last_corner_y, cx, cy,
+                        [&](int px, int py) { editor.paint_terrain(px, py, terrain); });
+    last_corner_x = cx;
+    last_corner_y = cy;
+}
+
+// In the chooser a quarter of a tile is its corner; in the strip a swatch
+// chooses a terrain and "+" adds one.
+void Map_View::terrain_press(float x, float y, Uint8 mouse_button) {
+    Terrain_Set set = editor.terrain();
+    const int tile = chooser_hit(x, y);
+    if (tile >= 0) {
+        const Rectangle c = chooser();
+        const int qx = ((int(x) - c.x) % chooser_cell) * 2 / chooser_cell;
+        const int qy = ((int(y) - c.y) % chooser_cell) * 2 / chooser_cell;
+        const int corner = qy == 0 ? (qx == 0 ? Terrain_Set::top_left : Terrain_Set::top_right)
+                                   : (qx == 0 ? Terrain_Set::bottom_left : Terrain_Set::bottom_right);
+        Terrain_Set::Corners corners = set.corners(tile);
+        corners[size_t(corner)] = uint8_t(mouse_button == SDL_BUTTON_RIGHT ? 0 : terrain);
+        set.set_corners(tile, corners);
+        editor.set_terrain(set);
+        return;
+    }
+    if (mouse_button != SDL_BUTTON_LEFT) return;
+    for (int t = 1; t <= set.terrain_count(); ++t)
+        if (terrain_swatch(t).contains(x, y)) terrain = t;
+    if (terrain_swatch(set.terrain_count() + 1).contains(x, y) && set.add_terrain()) {
+        terrain = set.terrain_count();
+        editor.set_terrain(set);
+    }
+}
+
 void Map_View::press(float x, float y, Uint8 mouse_button) {
     int column = 0;
     int row = 0;
+    if (current_tool == tool_terrain && mouse_button == SDL_BUTTON_LEFT && picture().contains(x, y)) {
+        editor.begin_stroke();
+        last_corner_x = last_corner_y = -1;
+        paint_terrain_at(x, y);
+        stroking = true;
+        return;
+    }
+    if (current_tool == tool_terrain && !picture().contains(x, y) && !button(button_terrain).contains(x, y)) {
+        terrain_press(x, y, mouse_button);
+        if (chooser_hit(x, y) >= 0) return;
+    }
     if (cell_at(x, y, column, row)) {
         if (mouse_button == SDL_BUTTON_RIGHT) {
             const int under = editor.map().at(column, row);
@@ -198,6 +276,10 @@ void Map_View::motion(float x, float y) {
     if (!cell_at(x, y, column, row)) column = row = -1;
     hover_column = column;
     hover_row = row;
+    if (stroking && current_tool == tool_terrain) {
+        if (picture().contains(x, y)) paint_terrain_at(x, y);
+        return;
+    }
     if (!stroking || column < 0) return;
     const int tile = current_tool == tool_eraser ? Tile_Map::empty : chosen;
     editor.paint_line(last_column, last_row, column, row, tile);
@@ -210,6 +292,17 @@ void Map_View::push_button(int which) {
         case button_paint: current_tool = tool_paint; break;
         case button_fill: current_tool = tool_fill; break;
         case button_eraser: current_tool = tool_eraser; break;
+        case button_terrain:
+            current_tool = tool_terrain;
+            // A first terrain set starts with two terrains to paint with.
+            if (editor.terrain().terrain_count() == 0) {
+                Terrain_Set set = editor.terrain();
+                set.add_terrain();
+                set.add_terrain();
+                editor.set_terrain(set);
+            }
+            terrain = std::clamp(terrain, 1, editor.terrain().terrain_count());
+            break;
         case button_grid: grid = !grid; break;
         case button_seams: seams = !seams; break;
         case button_undo: editor.undo(); break;

@@ -18,13 +18,19 @@ class Tile_Store;
 // tileset's tiles to choose from, and a row of buttons. The left button
 // paints the chosen tile into cells (a drag paints a line of cells), fills
 // or erases, by the tool; the right button picks the tile under the pointer.
+// The terrain tool paints the chosen terrain at the corner nearest the
+// pointer; with it, a click on a quarter of a tile in the chooser marks that
+// corner of the tile with the terrain (the right button clears it), and the
+// strip under the chooser chooses and adds terrains and shows the corner
+// combinations that have no tile yet, which the map marks where they are wanted.
 // Escape, "Close", a quit or a close request close it. Keys: p paint, f fill,
-// e eraser, g grid, s seams, Ctrl+Z undo, Ctrl+R (as in the main window) or Ctrl+Y redo.
+// e eraser, t terrain, g grid, s seams, Ctrl+Z undo, Ctrl+R (as in the main
+// window) or Ctrl+Y redo.
 class Map_View {
 public:
-    enum Tool { tool_paint, tool_fill, tool_eraser };
-    enum Button { button_paint, button_fill, button_eraser, button_grid, button_seams, button_undo, button_redo,
-                  button_close, button_count };
+    enum Tool { tool_paint, tool_fill, tool_eraser, tool_terrain };
+    enum Button { button_paint, button_fill, button_eraser, button_terrain, button_grid, button_seams, button_undo,
+                  button_redo, button_close, button_count };
     static constexpr int map_room = 560;
     static constexpr int chooser_columns = 16;
     static constexpr int chooser_cell = 32;
@@ -52,6 +58,13 @@ public:
     Rectangle cell_area(int column, int row) const;
     // The tile under a window point in the chooser, -1 for none.
     int chooser_hit(float x, float y) const;
+    // The strip under the chooser: a swatch for each terrain, then the "+"
+    // that adds one, then the missing combinations.
+    Rectangle terrain_swatch(int terrain) const;
+    Rectangle missing_area() const;
+    int current_terrain() const { return terrain; }
+    // The cells whose corner combination has no tile (checked when the map changed).
+    const std::vector<int>& missing_cells();
     int chosen_tile() const { return chosen; }
     Tool tool() const { return current_tool; }
     bool grid_shown() const { return grid; }
@@ -73,6 +86,9 @@ private:
     void draw_buttons();
     void draw_marks(const Rectangle& p);
     void draw_status();
+    void draw_terrain();
+    void terrain_press(float x, float y, Uint8 mouse_button);
+    void paint_terrain_at(float x, float y);
 
     Map_Editor& editor;
     const Tile_Store& store;
@@ -100,6 +116,11 @@ private:
     std::unique_ptr<Texture> chooser_image;
     Seam_Check checker;
     std::vector<Rectangle> marks;
+    int terrain = 1;
+    int last_corner_x = -1;
+    int last_corner_y = -1;
+    uint64_t missing_generation = ~uint64_t(0);
+    std::vector<int> missing;
 };
 
 // The view run on a tileset's map; what the user chose and whether the map changed.

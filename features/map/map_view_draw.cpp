@@ -27,8 +27,10 @@ constexpr Color pressed_face = ui_colors[ui_background];
 // A seam mark covers this many pixels on each side of its edge.
 constexpr int seam_half_width = 1;
 
-const char* const button_labels[Map_View::button_count] = {"Paint", "Fill", "Eraser", "Grid",
-                                                           "Seams", "Undo", "Redo", "Close"};
+const char* const button_labels[Map_View::button_count] = {"Paint", "Fill",  "Eraser", "Terrain", "Grid",
+                                                           "Seams", "Undo", "Redo",   "Close"};
+constexpr Color missing_color = ui_colors[ui_magenta];
+constexpr Color mark_frame = ui_colors[ui_black];
 
 // The tile's pixel at (x, y) of a picture of w x h pixels showing it whole.
 Color sampled(const Tile& tile, int x, int y, int w, int h) {
@@ -125,8 +127,70 @@ void Map_View::draw() {
         const Rectangle r = cell_area(hover_column, hover_row);
         w.frame(r, hover_color);
     }
+    draw_terrain();
     draw_buttons();
     draw_status();
+}
+
+// Four squares in the corners' terrain colours inside the rectangle, each
+// framed dark so it shows on any tile; 0 leaves its corner bare.
+static void draw_corners(const Rectangle& r, const Terrain_Set& set, const Terrain_Set::Corners& corners, int size) {
+    Main_Window& w = *g_main_window;
+    const int xs[4] = {r.x, r.x + r.width - size, r.x + r.width - size, r.x};
+    const int ys[4] = {r.y, r.y, r.y + r.height - size, r.y + r.height - size};
+    for (int k = 0; k < 4; ++k) {
+        const int t = corners[size_t(k)];
+        if (t < 1 || t > set.terrain_count()) continue;
+        const Rectangle square{xs[k], ys[k], size, size};
+        w.fill_opaque(square, set.terrains[size_t(t - 1)].color);
+        w.frame(square, mark_frame);
+    }
+}
+
+// The terrain marks: cells whose combination has no tile, the chooser's
+// corners (with the terrain tool), the terrains and the missing combinations.
+void Map_View::draw_terrain() {
+    Main_Window& w = *g_main_window;
+    const Terrain_Set& set = editor.terrain();
+    if (set.terrain_count() == 0) return;
+    const Tile_Map& map = editor.map();
+    const int mark = std::clamp(int(store.tile_width()) * factor / 4, 3, 8);
+    for (const int cell : missing_cells()) {
+        const Rectangle r = cell_area(cell % map.columns(), cell / map.columns());
+        w.frame(r, missing_color);
+        draw_corners(Rectangle{r.x + 1, r.y + 1, r.width - 2, r.height - 2}, set,
+                     editor.wanted(cell % map.columns(), cell / map.columns()), mark);
+    }
+    if (current_tool != tool_terrain) return;
+    const Rectangle c = chooser();
+    for (const auto& [tile, corners] : set.tiles())
+        if (tile < chooser_columns * chooser_columns)
+            draw_corners(Rectangle{c.x + (tile % chooser_columns) * chooser_cell + 1,
+                                   c.y + (tile / chooser_columns) * chooser_cell + 1, chooser_cell - 2, chooser_cell - 2},
+                         set, corners, 7);
+    Text_Writer& t = w.writer(font_regular);
+    for (int k = 1; k <= set.terrain_count(); ++k) {
+        const Rectangle s = terrain_swatch(k);
+        w.fill_opaque(s, set.terrains[size_t(k - 1)].color);
+        w.frame(s, k == terrain ? chosen_color : mark_frame);
+        if (k == terrain) w.frame(Rectangle{s.x + 1, s.y + 1, s.width - 2, s.height - 2}, chosen_color);
+    }
+    if (set.terrain_count() < Terrain_Set::most_terrains) {
+        const Rectangle plus = terrain_swatch(set.terrain_count() + 1);
+        w.bevel_fill(plus, button_face_color);
+        t.write_at(plus.x + (plus.width - t.measure("+")) / 2, plus.y + (plus.height - t.line_height()) / 2, "+");
+    }
+    // The combinations still to draw, each as a 2 x 2 diagram of its corners.
+    const Rectangle m = missing_area();
+    const std::vector<Terrain_Set::Corners> combinations = set.missing();
+    constexpr int half = 8;
+    int x = m.x;
+    for (const Terrain_Set::Corners& k : combinations) {
+        if (x + 2 * half > m.x + m.width) break;
+        const Rectangle d{x, m.y + (m.height - 2 * half) / 2, 2 * half, 2 * half};
+        draw_corners(d, set, k, half);
+        x += 2 * half + 4;
+    }
 }
 
 // The grid's lines and the seams' marks, each as one batch of fills.
@@ -162,7 +226,8 @@ void Map_View::draw_buttons() {
         const Rectangle r = button(b);
         const bool down = (b == button_paint && current_tool == tool_paint) ||
                           (b == button_fill && current_tool == tool_fill) ||
-                          (b == button_eraser && current_tool == tool_eraser) || (b == button_grid && grid) ||
+                          (b == button_eraser && current_tool == tool_eraser) ||
+                          (b == button_terrain && current_tool == tool_terrain) || (b == button_grid && grid) ||
                           (b == button_seams && seams);
         if (down) {
             w.fill_opaque(r, pressed_face);
@@ -184,6 +249,13 @@ void Map_View::draw_status() {
     char text[64];
     if (seams) {
         std::snprintf(text, sizeof text, "Seams: %d", int(seam_list().size()));
+        t.write_at(x, y, text);
+        x += t.measure(text) + 24;
+    }
+    const Terrain_Set& set = editor.terrain();
+    if (set.terrain_count() > 0) {
+        std::snprintf(text, sizeof text, "Terrain: %d of %d corner combinations drawn", set.drawn_count(),
+                      set.combination_count());
         t.write_at(x, y, text);
         x += t.measure(text) + 24;
     }

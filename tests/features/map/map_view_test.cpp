@@ -155,3 +155,46 @@ TEST_F(MapViewTest, CellsShowTheirTilesCurrentPixelsWithGridAndEraser) {
     EXPECT_EQ(tileset().map().map().at(0, 0), Tile_Map::empty);
     EXPECT_TRUE(tileset().is_modified());
 }
+
+TEST_F(MapViewTest, TheTerrainToolMarksCornersPaintsThemAndShowsWhatIsMissing) {
+    const Map_View view = probe();
+    const Rectangle p = view.picture();
+    auto quarter = [&](int tile, int qx, int qy) {
+        const Rectangle c = view.chooser();
+        return SDL_Point{c.x + tile * Map_View::chooser_cell + 8 + 16 * qx, c.y + 8 + 16 * qy};
+    };
+    auto click = [](SDL_Point at) { push_click(at.x, at.y); };
+    // The corner between cells (4, 4) and (5, 5): a drag there paints it.
+    auto paint_corner = [&] {
+        push_button(p.x + 5 * 24 + 2, p.y + 5 * 24 - 3, true);
+        push_button(p.x + 5 * 24 + 2, p.y + 5 * 24 - 3, false);
+    };
+    Color missing_frame;
+    Event_Script script;
+    script.then([&] {
+        push_key(SDLK_T);  // the first terrain set starts with two terrains
+        for (int q = 0; q < 4; ++q) click(quarter(0, q % 2, q / 2));  // stone: grass all round
+        paint_corner();
+        click(centre(view.terrain_swatch(2)));
+        paint_corner();
+    });
+    script.then([&] { push_motion(4, 4); });
+    script.then([&] {
+        missing_frame = read_pixel(view.cell_area(5, 5).x, view.cell_area(5, 5).y);
+        click(quarter(1, 1, 1));  // stone's bottom right: water
+        click(centre(view.terrain_swatch(1)));
+        for (int q = 0; q < 3; ++q) click(quarter(1, q % 2, q / 2));  // its other corners: grass
+        push_key(SDLK_ESCAPE);
+    });
+    EXPECT_EQ(g_editor->execute(command_map_editor), -1);
+    EXPECT_FALSE(script.ran_out());
+    const Map_Editor& m = tileset().map();
+    EXPECT_EQ(m.terrain().terrain_count(), 2);
+    EXPECT_TRUE(missing_frame.red > 200 && missing_frame.green < 60 && missing_frame.blue > 200)
+        << "a missing cell is framed in magenta";
+    EXPECT_EQ(m.terrain().corners(1), (Terrain_Set::Corners{1, 1, 2, 1}));
+    EXPECT_EQ(m.map().at(4, 4), 1) << "the combination drawn fills the cell left for it";
+    EXPECT_TRUE(m.is_missing(5, 5) && !m.is_missing(4, 4));
+    EXPECT_EQ(m.terrain().drawn_count(), 2);
+    EXPECT_TRUE(tileset().is_modified());
+}
