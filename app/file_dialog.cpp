@@ -19,11 +19,12 @@ const Kind kinds[] = {
     {"wst", false, {"Mosswick file (*.wst)", "wst"}}, {"wst", true, {"Mosswick file (*.wst)", "wst"}},
     {"*", false, {"All files (*.*)", "*"}},           {"*", false, {"All files (*.*)", "*"}},
     {"bmp", false, {"Bitmap file (*.bmp)", "bmp"}},   {"bmp", true, {"Bitmap file (*.bmp)", "bmp"}},
+    {"png", true, {"PNG image (*.png)", "png"}},
 };
 const SDL_DialogFileFilter all_files = {"All files (*.*)", "*"};
 
 const SDL_DialogFileFilter& filter_of(int kind) {
-    return kind >= 0 && kind <= file_save_bmp ? kinds[kind].filter : all_files;
+    return kind >= 0 && kind <= file_save_png ? kinds[kind].filter : all_files;
 }
 
 // The dialog may answer on another thread: the result is published last.
@@ -50,7 +51,7 @@ int file_dialog_answer(const char* const* files) {
     return file_chosen;
 }
 
-bool is_save_kind(int kind) { return kind == file_save_tileset || kind == file_save_bmp; }
+bool is_save_kind(int kind) { return kind == file_save_tileset || kind == file_save_bmp || kind == file_save_png; }
 
 void set_file_chooser(File_Chooser replacement) {
     chooser = replacement ? std::move(replacement) : File_Chooser(native_file_chooser);

@@ -13,6 +13,8 @@ enum File_Kind : int {
     file_open_any_too = 3,
     file_open_bmp = 4,
     file_save_bmp = 5,
+    // The map window's image.
+    file_save_png = 6,
 };
 
 // The outcome of one dialog: 0 chosen, 1 error, 2 cancelled (-1 while pending).

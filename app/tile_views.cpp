@@ -1,3 +1,9 @@
+#include <filesystem>
+
+#include "app/file_dialog.h"
+#include "platform/picture_file.h"
+#include "ui/message_box.h"
+#include "ui/ui_globals.h"
 #include "app/tile_views.h"
 
 #include <algorithm>
@@ -48,7 +54,15 @@ int arrange_tiles(Tileset& tileset, std::vector<int>& order) {
 
 int edit_map(Tileset& tileset) {
     Tile_Store& store = tileset.store();
-    const Map_View::Outcome outcome = show_map_editor(tileset.map(), store, tileset.path().name);
+    // The map's image as a PNG beside the tileset, under a name the user confirms.
+    auto save_image = [&tileset](const Picture& image) {
+        File_Path chosen;
+        chosen.set((std::filesystem::path(tileset.path().full).parent_path() / (tileset.path().name + "-map.png")).string());
+        if (!choose_file(file_save_png, chosen)) return;
+        if (!picture_file::write(chosen.full, image, safe_file::Links::follow))
+            g_message_box->note("Could not save the file.");
+    };
+    const Map_View::Outcome outcome = show_map_editor(tileset.map(), store, tileset.path().name, save_image);
     // The map's own changes mark the tileset; the title follows them.
     if (outcome.changed) tileset.refresh_modified();
     if (outcome.chosen < 0 || outcome.chosen == store.current_index()) return -1;

@@ -8,6 +8,7 @@
 #include "model/tile/tile_store.h"
 #include "model/core/line_walk.h"
 #include "model/map/map_editor.h"
+#include "model/map/map_image.h"
 #include "ui/backdrop.h"
 #include "ui/modal_loop.h"
 #include "platform/wait_for_key.h"
@@ -69,6 +70,7 @@ Rectangle Map_View::button(int which) const {
     constexpr int spacing = 4;
     const int y = c.y + map_room + row_gap;
     if (which == button_close) return Rectangle{c.x + c.width - width, y, width, button_height};
+    if (which == button_image) return Rectangle{c.x + c.width - 2 * width - 2 * spacing, y, width, button_height};
     // Tools, then the toggles, then undo and redo, each group a little apart.
     const int group_gap = which >= button_undo ? 2 * gap : which >= button_grid ? gap : 0;
     return Rectangle{c.x + which * (width + spacing) + group_gap, y, width, button_height};
@@ -98,8 +100,8 @@ int Map_View::chooser_hit(float x, float y) const {
 
 Rectangle Map_View::terrain_swatch(int which) const {
     const Rectangle c = chooser();
-    constexpr int size = 20;
-    return Rectangle{c.x + (which - 1) * (size + 4), c.y + chooser_size + 10, size, size};
+    constexpr int size = 18;
+    return Rectangle{c.x + (which - 1) * (size + 4), c.y + chooser_size + 26, size, size};
 }
 
 Rectangle Map_View::missing_area() const {
@@ -153,6 +155,7 @@ bool Map_View::handle(const SDL_Event& event) {
                 case SDLK_F: push_button(button_fill); break;
                 case SDLK_E: push_button(button_eraser); break;
                 case SDLK_T: push_button(button_terrain); break;
+                case SDLK_I: push_button(button_image); break;
                 case SDLK_G: push_button(button_grid); break;
                 case SDLK_S: push_button(button_seams); break;
                 case SDLK_Z:
@@ -305,13 +308,18 @@ void Map_View::push_button(int which) {
             break;
         case button_grid: grid = !grid; break;
         case button_seams: seams = !seams; break;
+        case button_image:
+            if (save_image) save_image(::map_image(editor.map(), store));
+            break;
         case button_undo: editor.undo(); break;
         case button_redo: editor.redo(); break;
         default: break;
     }
 }
 
-Map_View::Outcome show_map_editor(Map_Editor& editor, const Tile_Store& store, const std::string& name) {
+Map_View::Outcome show_map_editor(Map_Editor& editor, const Tile_Store& store, const std::string& name,
+                                  std::function<void(const Picture&)> save_image) {
     Map_View view(editor, store, name);
+    view.save_image = std::move(save_image);
     return view.run();
 }

@@ -2,11 +2,13 @@
 
 #include <SDL3/SDL.h>
 
+#include <functional>
 #include <memory>
 #include <string>
 #include <vector>
 
 #include "model/map/seam_check.h"
+#include "model/tile/picture.h"
 #include "ui/pane.h"
 #include "model/core/rectangle.h"
 
@@ -24,13 +26,13 @@ class Tile_Store;
 // strip under the chooser chooses and adds terrains and shows the corner
 // combinations that have no tile yet, which the map marks where they are wanted.
 // Escape, "Close", a quit or a close request close it. Keys: p paint, f fill,
-// e eraser, t terrain, g grid, s seams, Ctrl+Z undo, Ctrl+R (as in the main
-// window) or Ctrl+Y redo.
+// e eraser, t terrain, g grid, s seams, i the map's image, Ctrl+Z undo,
+// Ctrl+R (as in the main window) or Ctrl+Y redo.
 class Map_View {
 public:
     enum Tool { tool_paint, tool_fill, tool_eraser, tool_terrain };
     enum Button { button_paint, button_fill, button_eraser, button_terrain, button_grid, button_seams, button_undo,
-                  button_redo, button_close, button_count };
+                  button_redo, button_image, button_close, button_count };
     static constexpr int map_room = 560;
     static constexpr int chooser_columns = 16;
     static constexpr int chooser_cell = 32;
@@ -46,6 +48,9 @@ public:
         bool changed;  // the map was edited
     };
     Outcome run();
+    // "Image" hands the map as the game would show it to this, which asks
+    // where to write it.
+    std::function<void(const Picture&)> save_image;
 
     int zoom() const { return factor; }
     Rectangle picture() const;
@@ -124,4 +129,5 @@ private:
 };
 
 // The view run on a tileset's map; what the user chose and whether the map changed.
-Map_View::Outcome show_map_editor(Map_Editor& editor, const Tile_Store& store, const std::string& name);
+Map_View::Outcome show_map_editor(Map_Editor& editor, const Tile_Store& store, const std::string& name,
+                                  std::function<void(const Picture&)> save_image = {});

@@ -27,8 +27,8 @@ constexpr Color pressed_face = ui_colors[ui_background];
 // A seam mark covers this many pixels on each side of its edge.
 constexpr int seam_half_width = 1;
 
-const char* const button_labels[Map_View::button_count] = {"Paint", "Fill",  "Eraser", "Terrain", "Grid",
-                                                           "Seams", "Undo", "Redo",   "Close"};
+const char* const button_labels[Map_View::button_count] = {"Paint", "Fill", "Eraser", "Terrain", "Grid",
+                                                           "Seams", "Undo", "Redo",   "Image",   "Close"};
 constexpr Color missing_color = ui_colors[ui_magenta];
 constexpr Color mark_frame = ui_colors[ui_black];
 
@@ -161,14 +161,19 @@ void Map_View::draw_terrain() {
         draw_corners(Rectangle{r.x + 1, r.y + 1, r.width - 2, r.height - 2}, set,
                      editor.wanted(cell % map.columns(), cell / map.columns()), mark);
     }
-    if (current_tool != tool_terrain) return;
     const Rectangle c = chooser();
-    for (const auto& [tile, corners] : set.tiles())
-        if (tile < chooser_columns * chooser_columns)
-            draw_corners(Rectangle{c.x + (tile % chooser_columns) * chooser_cell + 1,
-                                   c.y + (tile / chooser_columns) * chooser_cell + 1, chooser_cell - 2, chooser_cell - 2},
-                         set, corners, 7);
     Text_Writer& t = w.writer(font_regular);
+    char text[64];
+    std::snprintf(text, sizeof text, "Terrain: %d of %d corner combinations drawn", set.drawn_count(),
+                  set.combination_count());
+    t.write_at(c.x, c.y + chooser_size + 5, text);
+    if (current_tool == tool_terrain)
+        for (const auto& [tile, corners] : set.tiles())
+            if (tile < chooser_columns * chooser_columns)
+                draw_corners(Rectangle{c.x + (tile % chooser_columns) * chooser_cell + 1,
+                                       c.y + (tile / chooser_columns) * chooser_cell + 1, chooser_cell - 2,
+                                       chooser_cell - 2},
+                             set, corners, 7);
     for (int k = 1; k <= set.terrain_count(); ++k) {
         const Rectangle s = terrain_swatch(k);
         w.fill_opaque(s, set.terrains[size_t(k - 1)].color);
@@ -249,13 +254,6 @@ void Map_View::draw_status() {
     char text[64];
     if (seams) {
         std::snprintf(text, sizeof text, "Seams: %d", int(seam_list().size()));
-        t.write_at(x, y, text);
-        x += t.measure(text) + 24;
-    }
-    const Terrain_Set& set = editor.terrain();
-    if (set.terrain_count() > 0) {
-        std::snprintf(text, sizeof text, "Terrain: %d of %d corner combinations drawn", set.drawn_count(),
-                      set.combination_count());
         t.write_at(x, y, text);
         x += t.measure(text) + 24;
     }

@@ -1,6 +1,7 @@
 // The map editor's window driven through its own loop, as the editor opens it.
 #include "features/map/map_view.h"
 
+#include "platform/picture_file.h"
 #include "support/editor_fixture.h"
 
 namespace {
@@ -184,8 +185,11 @@ TEST_F(MapViewTest, TheTerrainToolMarksCornersPaintsThemAndShowsWhatIsMissing) {
         click(quarter(1, 1, 1));  // stone's bottom right: water
         click(centre(view.terrain_swatch(1)));
         for (int q = 0; q < 3; ++q) click(quarter(1, q % 2, q / 2));  // its other corners: grass
+        push_key(SDLK_I);  // the map's image, as a PNG
         push_key(SDLK_ESCAPE);
     });
+    Temp_Dir dir;
+    answer_files_with((dir.path / "shore.bmp").string());
     EXPECT_EQ(g_editor->execute(command_map_editor), -1);
     EXPECT_FALSE(script.ran_out());
     const Map_Editor& m = tileset().map();
@@ -197,4 +201,8 @@ TEST_F(MapViewTest, TheTerrainToolMarksCornersPaintsThemAndShowsWhatIsMissing) {
     EXPECT_TRUE(m.is_missing(5, 5) && !m.is_missing(4, 4));
     EXPECT_EQ(m.terrain().drawn_count(), 2);
     EXPECT_TRUE(tileset().is_modified());
+    Picture image;
+    ASSERT_EQ(picture_file::read((dir.path / "shore.png").string(), image), "");
+    EXPECT_EQ(image.at(4 * 24 + 12, 4 * 24 + 12), stone);
+    EXPECT_EQ(image.at(5 * 24 + 12, 5 * 24 + 12).alpha, 0) << "a missing cell is empty in the image";
 }
