@@ -161,11 +161,21 @@ bool Map_View::handle(const SDL_Event& event) {
                 case SDLK_Z:
                     if (ctrl) push_button(button_undo);
                     break;
-                // Redo answers to the main window's Ctrl+R and to Ctrl+Y.
+                // Redo answers to the main window's Ctrl+R and to Ctrl+Y; the
+                // plain keys flip and turn the tile painted.
                 case SDLK_R:
-                case SDLK_Y:
-                    if (ctrl) push_button(button_redo);
+                    if (ctrl)
+                        push_button(button_redo);
+                    else if (store.tile_width() == store.tile_height())
+                        brush_turn = turn::quarter_turned(brush_turn);
                     break;
+                case SDLK_Y:
+                    if (ctrl)
+                        push_button(button_redo);
+                    else
+                        brush_turn = turn::flipped_v(brush_turn);
+                    break;
+                case SDLK_X: brush_turn = turn::flipped_h(brush_turn); break;
                 default: break;
             }
             return true;
@@ -253,13 +263,14 @@ void Map_View::press(float x, float y, Uint8 mouse_button) {
         if (mouse_button == SDL_BUTTON_RIGHT) {
             const int under = editor.map().at(column, row);
             if (under < store.tile_count()) choose(under);
+            if (under >= 0 && under < store.tile_count()) brush_turn = editor.map().turn_at(column, row);
         } else if (mouse_button == SDL_BUTTON_LEFT) {
             const int tile = current_tool == tool_eraser ? Tile_Map::empty : chosen;
             if (current_tool == tool_fill) {
-                editor.fill(column, row, tile);
+                editor.fill(column, row, tile, brush_turn);
             } else if (tile >= 0 || current_tool == tool_eraser) {
                 editor.begin_stroke();
-                editor.paint(column, row, tile);
+                editor.paint(column, row, tile, brush_turn);
                 stroking = true;
                 last_column = column;
                 last_row = row;
@@ -285,7 +296,7 @@ void Map_View::motion(float x, float y) {
     }
     if (!stroking || column < 0) return;
     const int tile = current_tool == tool_eraser ? Tile_Map::empty : chosen;
-    editor.paint_line(last_column, last_row, column, row, tile);
+    editor.paint_line(last_column, last_row, column, row, tile, brush_turn);
     last_column = column;
     last_row = row;
 }

@@ -26,8 +26,10 @@ class Tile_Store;
 // strip under the chooser chooses and adds terrains and shows the corner
 // combinations that have no tile yet, which the map marks where they are wanted.
 // Escape, "Close", a quit or a close request close it. Keys: p paint, f fill,
-// e eraser, t terrain, g grid, s seams, i the map's image, Ctrl+Z undo,
-// Ctrl+R (as in the main window) or Ctrl+Y redo.
+// e eraser, t terrain, g grid, s seams, i the map's image, x and y flip the
+// painted tile across and upside down, r turns it a quarter clockwise (square
+// tiles), Ctrl+Z undo, Ctrl+R (as in the main window) or Ctrl+Y redo. The
+// right button picks a cell's tile with its turn.
 class Map_View {
 public:
     enum Tool { tool_paint, tool_fill, tool_eraser, tool_terrain };
@@ -68,6 +70,8 @@ public:
     Rectangle terrain_swatch(int terrain) const;
     Rectangle missing_area() const;
     int current_terrain() const { return terrain; }
+    // How the painted tile is turned (turn::none to turn::diagonal bits).
+    int brush() const { return brush_turn; }
     // The cells whose corner combination has no tile (checked when the map changed).
     const std::vector<int>& missing_cells();
     int chosen_tile() const { return chosen; }
@@ -122,6 +126,7 @@ private:
     Seam_Check checker;
     std::vector<Rectangle> marks;
     int terrain = 1;
+    int brush_turn = 0;
     int last_corner_x = -1;
     int last_corner_y = -1;
     uint64_t missing_generation = ~uint64_t(0);

@@ -49,21 +49,24 @@ void Map_View::compose_map() {
     bool any = false;
     for (int cell = 0; cell < map.cell_count(); ++cell) {
         const int tile = map.at(cell) < store.tile_count() ? map.at(cell) : Tile_Map::empty;
-        if (composed_cells[size_t(cell)] == tile) continue;
-        composed_cells[size_t(cell)] = tile;
+        const int t = map.turn_at(cell);
+        // A cell is composed again when its tile or its turn changed.
+        const int shown = tile < 0 ? tile : tile * 8 + t;
+        if (composed_cells[size_t(cell)] == shown) continue;
+        composed_cells[size_t(cell)] = shown;
         any = true;
         const int left = (cell % map.columns()) * cw;
         const int top = (cell / map.columns()) * ch;
-        const Tile* t = tile >= 0 ? store.tile_at(tile) : nullptr;
+        const Tile* tile_shown = tile >= 0 ? store.tile_at(tile) : nullptr;
         for (int y = 0; y < ch; ++y) {
             Color* row = map_pixels.data() + size_t(top + y) * size_t(stride) + size_t(left);
             for (int x = 0; x < cw; ++x) {
-                if (!t) {
+                if (!tile_shown) {
                     row[x] = empty_color;
                     continue;
                 }
                 const bool light = ((left + x) / checker_cell + (top + y) / checker_cell) % 2 == 0;
-                row[x] = on_checkerboard(t->get_pixel(x / factor, y / factor), light);
+                row[x] = on_checkerboard(turn::pixel(*tile_shown, t, x / factor, y / factor), light);
             }
         }
     }
@@ -257,6 +260,12 @@ void Map_View::draw_status() {
         t.write_at(x, y, text);
         x += t.measure(text) + 24;
     }
+    // The keys that turn the painted tile, and how it is turned now.
+    static const char* const turns[8] = {"as drawn",      "flipped across", "upside down",     "half turned",
+                                         "on its diagonal", "quarter turned", "three quarters", "on the other diagonal"};
+    std::snprintf(text, sizeof text, "Tile %s (x, y, r)", turns[brush_turn & 7]);
+    t.write_at(x, y, text);
+    x += t.measure(text) + 24;
     if (hover_column >= 0) {
         std::snprintf(text, sizeof text, "Cell %d, %d", hover_column, hover_row);
         t.write_at(x, y, text);

@@ -9,6 +9,7 @@ namespace {
 // The cells that held a tile when it left, and the mark its history entries got.
 struct Map_Uses : Tile_Uses {
     std::vector<int> cells;
+    std::vector<uint8_t> turns;
     int mark = 0;
     Terrain_Set::Corners terrain{};
 };
@@ -26,12 +27,15 @@ void Map_Editor::begin_stroke() {
     open_edit.cells.clear();
 }
 
-void Map_Editor::set_cell(int cell, int tile) {
+void Map_Editor::set_cell(int cell, int tile, int turn) {
     const int before = cells.at(cell);
+    const int turn_before = cells.turn_at(cell);
     const int after = tile < 0 ? Tile_Map::empty : tile;
-    if (before == after) return;
-    cells.set(cell, after);
-    open_edit.cells.push_back(Map_Edit::Cell{cell, before, after});
+    const int turn_after = tile < 0 ? turn::none : turn & 7;
+    if (before == after && turn_before == turn_after) return;
+    cells.put(cell, after, turn_after);
+    open_edit.cells.push_back(
+        Map_Edit::Cell{cell, before, after, uint8_t(turn_before), uint8_t(turn_after)});
     ++changes;
     count_edit();
 }
@@ -40,7 +44,7 @@ void Map_Editor::set_corner(int corner, int terrain) {
     const int before = corners.at(corner);
     const int after = terrain <= 0 ? Tile_Map::empty : terrain;
     if (before == after) return;
-    corners.set(corner, after);
+    corners.put(corner, after);
     open_edit.corners.push_back(Map_Edit::Cell{corner, before, after});
     ++changes;
 }
@@ -68,7 +72,7 @@ void Map_Editor::paint_terrain(int corner_x, int corner_y, int terrain) {
             for (int k = 0; k < 4; ++k)
                 if (corners.at(around[k][0], around[k][1]) == Tile_Map::empty)
                     set_corner(around[k][1] * corners.columns() + around[k][0], has[k] != 0 ? has[k] : terrain);
-            set_cell(y * cells.columns() + x, terrains.tile_for(wanted(x, y), x, y));
+            set_cell(y * cells.columns() + x, terrains.tile_for(wanted(x, y), x, y), turn::none);
         }
 }
 
@@ -82,7 +86,7 @@ bool Map_Editor::set_terrain(const Terrain_Set& set) {
         for (int x = 0; x < cells.columns(); ++x) {
             const Terrain_Set::Corners w = wanted(x, y);
             if (cells.at(x, y) == Tile_Map::empty && terrains.complete(w))
-                set_cell(y * cells.columns() + x, terrains.tile_for(w, x, y));
+                set_cell(y * cells.columns() + x, terrains.tile_for(w, x, y), turn::none);
         }
     return end_stroke();
 }
@@ -94,19 +98,19 @@ void Map_Editor::place_terrain(const Terrain_Set& set) {
             const Terrain_Set::Corners c = terrains.corners(cells.at(x, y));
             const int around[4][2] = {{x, y}, {x + 1, y}, {x + 1, y + 1}, {x, y + 1}};
             for (int k = 0; k < 4; ++k)
-                if (c[size_t(k)] != 0) corners.set(around[k][0], around[k][1], c[size_t(k)]);
+                if (c[size_t(k)] != 0) corners.set(around[k][0], around[k][1], int(c[size_t(k)]));
         }
     ++changes;
 }
 
-void Map_Editor::paint(int x, int y, int tile) {
+void Map_Editor::paint(int x, int y, int tile, int turn) {
     if (cells.is_outside(x, y)) return;
     if (!stroking) begin_stroke();
-    set_cell(y * cells.columns() + x, tile);
+    set_cell(y * cells.columns() + x, tile, turn);
 }
 
-void Map_Editor::paint_line(int x1, int y1, int x2, int y2, int tile) {
-    for_each_line_point(x1, y1, x2, y2, [&](int x, int y) { paint(x, y, tile); });
+void Map_Editor::paint_line(int x1, int y1, int x2, int y2, int tile, int turn) {
+    for_each_line_point(x1, y1, x2, y2, [&](int x, int y) { paint(x, y, tile, turn); });
 }
 
 bool Map_Editor::end_stroke() {
@@ -118,15 +122,16 @@ bool Map_Editor::end_stroke() {
     return changed;
 }
 
-bool Map_Editor::fill(int x, int y, int tile) {
+bool Map_Editor::fill(int x, int y, int tile, int turn) {
     end_stroke();
     if (cells.is_outside(x, y)) return false;
     const int target = cells.at(x, y);
-    if (target == (tile < 0 ? Tile_Map::empty : tile)) return false;
+    const int target_turn = cells.turn_at(x, y);
+    if (target == (tile < 0 ? Tile_Map::empty : tile) && (tile < 0 || target_turn == turn)) return false;
     begin_stroke();
     // A stack of cells, each set as it is pushed so none is pushed twice.
     std::vector<int> pending{y * cells.columns() + x};
-    set_cell(pending.back(), tile);
+    set_cell(pending.back(), tile, turn);
     while (!pending.empty()) {
         const int cell = pending.back();
         pending.pop_back();
@@ -134,9 +139,11 @@ bool Map_Editor::fill(int x, int y, int tile) {
         const int cy = cell / cells.columns();
         const int around[4][2] = {{cx - 1, cy}, {cx + 1, cy}, {cx, cy - 1}, {cx, cy + 1}};
         for (const auto& n : around) {
-            if (cells.at(n[0], n[1]) != target || cells.is_outside(n[0], n[1])) continue;
+            if (cells.at(n[0], n[1]) != target || cells.turn_at(n[0], n[1]) != target_turn ||
+                cells.is_outside(n[0], n[1]))
+                continue;
             pending.push_back(n[1] * cells.columns() + n[0]);
-            set_cell(pending.back(), tile);
+            set_cell(pending.back(), tile, turn);
         }
     }
     return end_stroke();
@@ -167,16 +174,16 @@ int Map_Editor::take_cells(const Tile_Map& other) {
             if (cells.is_outside(x, y))
                 ++left_out;
             else
-                cells.set(x, y, tile);
+                cells.set(x, y, tile, other.turn_at(x, y));
             count_edit();
         }
     ++changes;
     return left_out;
 }
 
-void Map_Editor::place(int x, int y, int tile) {
-    if (cells.at(x, y) != (tile < 0 ? Tile_Map::empty : tile)) count_edit();
-    cells.set(x, y, tile);
+void Map_Editor::place(int x, int y, int tile, int turn) {
+    if (cells.at(x, y) != (tile < 0 ? Tile_Map::empty : tile) || cells.turn_at(x, y) != turn) count_edit();
+    cells.set(x, y, tile, turn);
     ++changes;
 }
 
@@ -208,7 +215,7 @@ std::unique_ptr<Tile_Uses> Map_Editor::tile_leaving(int index) {
     end_stroke();
     auto uses = std::make_unique<Map_Uses>();
     for (int c = 0; c < cells.cell_count(); ++c)
-        if (cells.at(c) == index) uses->cells.push_back(c);
+        if (cells.at(c) == index) uses->cells.push_back(c), uses->turns.push_back(uint8_t(cells.turn_at(c)));
     uses->mark = next_mark--;
     uses->terrain = terrains.corners(index);
     steps.leaving(index, uses->mark);
@@ -219,9 +226,9 @@ std::unique_ptr<Tile_Uses> Map_Editor::tile_leaving(int index) {
 void Map_Editor::tile_returned(int index, const Tile_Uses& uses) {
     const auto* map_uses = dynamic_cast<const Map_Uses*>(&uses);
     if (!map_uses) return;
-    for (const int c : map_uses->cells)
-        if (c < cells.cell_count() && cells.at(c) == Tile_Map::empty) {
-            cells.set(c, index);
+    for (size_t i = 0; i < map_uses->cells.size(); ++i)
+        if (const int c = map_uses->cells[i]; c < cells.cell_count() && cells.at(c) == Tile_Map::empty) {
+            cells.put(c, index, map_uses->turns[i]);
             count_edit();
         }
     steps.returned(map_uses->mark, index);

@@ -34,14 +34,14 @@ public:
 
     // A stroke sets cells one by one or along a line; a negative tile erases.
     void begin_stroke();
-    void paint(int x, int y, int tile);
-    void paint_line(int x1, int y1, int x2, int y2, int tile);
+    void paint(int x, int y, int tile, int turn = turn::none);
+    void paint_line(int x1, int y1, int x2, int y2, int tile, int turn = turn::none);
     // True when the stroke changed a cell (and so was recorded).
     bool end_stroke();
     bool in_stroke() const { return stroking; }
     // The cells joined to (x, y) across edges holding the same as it take the
     // tile; true when anything changed. Ends an open stroke first.
-    bool fill(int x, int y, int tile);
+    bool fill(int x, int y, int tile, int turn = turn::none);
     bool undo();
     bool redo();
 
@@ -67,7 +67,7 @@ public:
     // number of placed cells that did not fit.
     int take_cells(const Tile_Map& other);
     // Cells placed in one go, as reading a map file does: no history.
-    void place(int x, int y, int tile);
+    void place(int x, int y, int tile, int turn = turn::none);
     void clear_history() { steps.clear(); }
 
     void tile_inserted(int index) override;
@@ -89,7 +89,7 @@ public:
     std::function<void()> saved_state_changed;
 
 private:
-    void set_cell(int cell, int tile);
+    void set_cell(int cell, int tile, int turn);
     void count_edit();
 
     void set_corner(int corner, int terrain);

@@ -16,8 +16,20 @@
 #include "model/map/terrain_file.h"
 
 namespace {
-// Tiled keeps flip and rotation flags in a cell's top bits.
+// Map files keep a cell's flips in its top bits: across, upside down,
+// diagonal, and a hexagonal turn this editor does not show.
 constexpr uint32_t flag_bits = 0xF0000000u;
+constexpr uint32_t flip_h_bit = 0x80000000u, flip_v_bit = 0x40000000u, diagonal_bit = 0x20000000u,
+                   hexagonal_bit = 0x10000000u;
+
+int turn_of(uint32_t value) {
+    return (value & flip_h_bit ? turn::flip_h : 0) | (value & flip_v_bit ? turn::flip_v : 0) |
+           (value & diagonal_bit ? turn::diagonal : 0);
+}
+uint32_t flags_of(int t) {
+    return (t & turn::flip_h ? flip_h_bit : 0) | (t & turn::flip_v ? flip_v_bit : 0) |
+           (t & turn::diagonal ? diagonal_bit : 0);
+}
 
 // The whole file name minus its extension (after the last dot), so that
 // "level.1.wst" and "level.2.wst" keep maps of their own.
@@ -132,7 +144,7 @@ std::vector<uint32_t> gids_of(const Tile_Map& map, int columns, int rows, int fi
     for (int y = 0; y < rows; ++y)
         for (int x = 0; x < columns; ++x) {
             const int tile = map.at(x, y);
-            gids.push_back(tile == Tile_Map::empty ? 0 : uint32_t(tile + first_gid));
+            gids.push_back(tile == Tile_Map::empty ? 0 : uint32_t(tile + first_gid) | flags_of(map.turn_at(x, y)));
         }
     return gids;
 }
@@ -408,7 +420,7 @@ void read_layer(const tinyxml2::XMLElement* root, const tinyxml2::XMLElement* ti
     int flipped = 0;
     for (long long index = 0; index < std::min(read_count, expected); ++index) {
         const uint32_t value = cells.cells[size_t(index)];
-        if (value & flag_bits) ++flipped;
+        if (value & hexagonal_bit) ++flipped;
         const long long gid = value & ~flag_bits;
         if (gid == 0) continue;
         const long long tile = gid - first_gid;
@@ -419,13 +431,14 @@ void read_layer(const tinyxml2::XMLElement* root, const tinyxml2::XMLElement* ti
             continue;
         }
         if (map.is_outside(x, y)) continue;
-        into.place(x, y, int(tile));
+        into.place(x, y, int(tile), turn_of(value));
         ++r.cells;
     }
     if (bad > 0) add_problem(r, std::to_string(bad) + " cells held no valid number and were left empty.");
     if (unknown > 0)
         add_problem(r, std::to_string(unknown) + " cells named tiles this tileset does not have and were left empty.");
-    if (flipped > 0) add_problem(r, std::to_string(flipped) + " cells were flipped or turned; they show unturned.");
+    if (flipped > 0)
+        add_problem(r, std::to_string(flipped) + " cells were turned for a hexagonal map; they show without that turn.");
     if (read_count < expected)
         add_problem(r, "Its tile layer ends after " + std::to_string(read_count) + " of " + std::to_string(expected) +
                            " cells.");

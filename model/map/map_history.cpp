@@ -24,8 +24,8 @@ bool Map_History::undo(Tile_Map& map, Tile_Map& corners) {
     if (done.empty()) return false;
     const Map_Edit& edit = done.back();
     // Backwards, so a cell touched twice ends as it was first.
-    for (auto it = edit.cells.rbegin(); it != edit.cells.rend(); ++it) map.set(it->cell, it->before);
-    for (auto it = edit.corners.rbegin(); it != edit.corners.rend(); ++it) corners.set(it->cell, it->before);
+    for (auto it = edit.cells.rbegin(); it != edit.cells.rend(); ++it) map.put(it->cell, it->before, it->turn_before);
+    for (auto it = edit.corners.rbegin(); it != edit.corners.rend(); ++it) corners.put(it->cell, it->before);
     undone.push_back(std::move(done.back()));
     done.pop_back();
     return true;
@@ -33,8 +33,8 @@ bool Map_History::undo(Tile_Map& map, Tile_Map& corners) {
 
 bool Map_History::redo(Tile_Map& map, Tile_Map& corners) {
     if (undone.empty()) return false;
-    for (const Map_Edit::Cell& c : undone.back().cells) map.set(c.cell, c.after);
-    for (const Map_Edit::Cell& c : undone.back().corners) corners.set(c.cell, c.after);
+    for (const Map_Edit::Cell& c : undone.back().cells) map.put(c.cell, c.after, c.turn_after);
+    for (const Map_Edit::Cell& c : undone.back().corners) corners.put(c.cell, c.after);
     done.push_back(std::move(undone.back()));
     undone.pop_back();
     return true;

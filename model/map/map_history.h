@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstddef>
+#include <cstdint>
 #include <vector>
 
 #include "model/map/tile_map.h"
@@ -12,6 +13,8 @@ struct Map_Edit {
         int cell;
         int before;
         int after;
+        uint8_t turn_before = 0;
+        uint8_t turn_after = 0;
     };
     std::vector<Cell> cells;
     // Terrains set at the map's corners (terrain numbers, not tiles).

@@ -11,9 +11,15 @@ Picture map_image(const Tile_Map& map, const Tile_Store& tiles) {
             const int index = map.at(cx, cy);
             if (index < 0 || index >= tiles.tile_count()) continue;
             const Tile& tile = *tiles.tile_at(index);
-            for (int y = 0; y < th; ++y)
-                std::memcpy(&p.at(cx * tw, cy * th + y), tile.pixels() + size_t(y) * size_t(tw),
-                            size_t(tw) * sizeof(Color));
+            const int t = map.turn_at(cx, cy);
+            for (int y = 0; y < th; ++y) {
+                if (t == turn::none) {
+                    std::memcpy(&p.at(cx * tw, cy * th + y), tile.pixels() + size_t(y) * size_t(tw),
+                                size_t(tw) * sizeof(Color));
+                    continue;
+                }
+                for (int x = 0; x < tw; ++x) p.at(cx * tw + x, cy * th + y) = turn::pixel(tile, t, x, y);
+            }
         }
     return p;
 }

@@ -44,14 +44,28 @@ const std::vector<Seam>& Seam_Check::run(const Tile_Map& map, const Tile_Store& 
         }
         return known == 1;
     };
+    // Turned cells are compared pixel by pixel as they show; unturned pairs
+    // through the table.
+    auto turned_meet = [&](bool vertical, int a, int ta, int b, int tb) {
+        const int n = vertical ? h : w;
+        for (int i = 0; i < n; ++i) {
+            const Color pa = vertical ? turn::pixel(*tiles[a], ta, w - 1, i) : turn::pixel(*tiles[a], ta, i, h - 1);
+            const Color pb = vertical ? turn::pixel(*tiles[b], tb, 0, i) : turn::pixel(*tiles[b], tb, i, 0);
+            if (differ(pa, pb)) return false;
+        }
+        return true;
+    };
+    auto joins = [&](bool vertical, int x, int y, int nx, int ny) {
+        const int a = map.at(x, y), b = map.at(nx, ny);
+        const int ta = map.turn_at(x, y), tb = map.turn_at(nx, ny);
+        return ta == turn::none && tb == turn::none ? meets(vertical, a, b) : turned_meet(vertical, a, ta, b, tb);
+    };
     for (int y = 0; y < map.rows(); ++y)
         for (int x = 0; x < map.columns(); ++x) {
             const int here = map.at(x, y);
             if (!placed(here)) continue;
-            const int right = map.at(x + 1, y);
-            if (placed(right) && !meets(true, here, right)) found.push_back(Seam{x, y, true});
-            const int below = map.at(x, y + 1);
-            if (placed(below) && !meets(false, here, below)) found.push_back(Seam{x, y, false});
+            if (placed(map.at(x + 1, y)) && !joins(true, x, y, x + 1, y)) found.push_back(Seam{x, y, true});
+            if (placed(map.at(x, y + 1)) && !joins(false, x, y, x, y + 1)) found.push_back(Seam{x, y, false});
         }
     return found;
 }

@@ -3,11 +3,14 @@
 #include <algorithm>
 
 Tile_Map::Tile_Map(int columns, int rows)
-    : width(std::max(columns, 0)), height(std::max(rows, 0)), cells(size_t(width) * size_t(height), empty) {}
+    : width(std::max(columns, 0)),
+      height(std::max(rows, 0)),
+      cells(size_t(width) * size_t(height), empty),
+      turns(size_t(width) * size_t(height), uint8_t(turn::none)) {}
 
-void Tile_Map::set(int x, int y, int tile) {
+void Tile_Map::set(int x, int y, int tile, int turn) {
     if (is_outside(x, y)) return;
-    cells[size_t(y * width + x)] = tile < 0 ? empty : tile;
+    put(y * width + x, tile, turn);
 }
 
 bool Tile_Map::is_blank() const {

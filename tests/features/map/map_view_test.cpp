@@ -185,12 +185,15 @@ TEST_F(MapViewTest, TheTerrainToolMarksCornersPaintsThemAndShowsWhatIsMissing) {
         click(quarter(1, 1, 1));  // stone's bottom right: water
         click(centre(view.terrain_swatch(1)));
         for (int q = 0; q < 3; ++q) click(quarter(1, q % 2, q / 2));  // its other corners: grass
+        push_key(SDLK_P), push_key(SDLK_R);  // stone a quarter turned, painted at (0, 0)
+        click(quarter(1, 0, 0));
+        push_click(centre(view.cell_area(0, 0)).x, centre(view.cell_area(0, 0)).y);
         push_key(SDLK_I);  // the map's image, as a PNG
         push_key(SDLK_ESCAPE);
     });
     Temp_Dir dir;
     answer_files_with((dir.path / "shore.bmp").string());
-    EXPECT_EQ(g_editor->execute(command_map_editor), -1);
+    EXPECT_EQ(g_editor->execute(command_map_editor), command_select_tile);  // stone was chosen
     EXPECT_FALSE(script.ran_out());
     const Map_Editor& m = tileset().map();
     EXPECT_EQ(m.terrain().terrain_count(), 2);
@@ -200,6 +203,7 @@ TEST_F(MapViewTest, TheTerrainToolMarksCornersPaintsThemAndShowsWhatIsMissing) {
     EXPECT_EQ(m.map().at(4, 4), 1) << "the combination drawn fills the cell left for it";
     EXPECT_TRUE(m.is_missing(5, 5) && !m.is_missing(4, 4));
     EXPECT_EQ(m.terrain().drawn_count(), 2);
+    EXPECT_EQ(m.map().at(0, 0) * 10 + m.map().turn_at(0, 0), 10 + turn::quarter_turned(turn::none));
     EXPECT_TRUE(tileset().is_modified());
     Picture image;
     ASSERT_EQ(picture_file::read((dir.path / "shore.png").string(), image), "");

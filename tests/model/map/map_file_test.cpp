@@ -152,6 +152,30 @@ TEST(MapFile, TheTerrainSetIsACornerWangSetOfTheTilesetAndComesBack) {
     EXPECT_TRUE(back.terrain() == set);
 }
 
+TEST(MapFile, TurnedCellsKeepTheirFlagsAndShowTurned) {
+    Scratch_Dir dir;
+    const std::string path = dir.file("turns.tmx");
+    Map_Editor m(24, 24);
+    for (int t = 0; t < 8; ++t) m.place(t, 0, 1, t);
+    ASSERT_TRUE(Map_File::write(m.map(), 24, 24, path));
+    // Tile 1 is gid 2: flipped across it is 2 with the top bit, 2147483650.
+    EXPECT_NE(Map_File::text_of(path).find("2,2147483650,1073741826,3221225474,536870914,"), std::string::npos);
+    Map_Editor back(24, 24);
+    EXPECT_TRUE(Map_File::read(path, back, 24, 24, 10).whole);
+    for (int t = 0; t < 8; ++t) EXPECT_EQ(back.map().turn_at(t, 0), t);
+
+    // A quarter turn clockwise takes the top left pixel to the top right;
+    // four of them turn the tile back.
+    Tile tile(6, 6);
+    tile.set_pixel(0, 0, Color(255, 0, 0));
+    int t = turn::none;
+    t = turn::quarter_turned(t);
+    EXPECT_EQ(turn::pixel(tile, t, 5, 0), Color(255, 0, 0));
+    EXPECT_EQ(turn::pixel(tile, turn::flipped_v(turn::none), 0, 5), Color(255, 0, 0));
+    for (int k = 0; k < 3; ++k) t = turn::quarter_turned(t);
+    EXPECT_EQ(t, turn::none);
+}
+
 TEST(MapFile, DamagedAndForeignFilesAreReadAsFarAsTheyAreValid) {
     Scratch_Dir dir;
     const std::string path = dir.file("cave.tmx");
