@@ -240,7 +240,14 @@ void Editor::repaint(bool present) {
     frame.next_group();
     tool_bar->draw();
     frame.next_group();
-    if (g_message_box) g_message_box->preview().draw_tile(tile_for_preview());
+    if (g_message_box) {
+        Tileset* t = current();
+        if (t && t->map().in_preview)
+            g_message_box->preview().draw_map(t->map().map(), t->map().generation(), t->store(), tile_for_preview(),
+                                              t->store().current_index());
+        else
+            g_message_box->preview().draw_tile(tile_for_preview());
+    }
     frame.next_group();
     undo_control->draw_meter();
     frame.next_group();

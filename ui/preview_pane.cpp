@@ -6,7 +6,9 @@
 #include "platform/main_window.h"
 #include "platform/texture.h"
 #include "platform/ui_colors.h"
+#include "model/map/tile_map.h"
 #include "model/tile/tile.h"
+#include "model/tile/tile_store.h"
 
 namespace {
 constexpr int widest_repeat = 191;
@@ -92,5 +94,63 @@ void Preview_Pane::draw_tile(const Tile* tile) {
     Pane::draw();
     if (!tile || tile->width() <= 0 || tile->height() <= 0) return;
     if (!same_as_shown(*tile)) compose(*tile);
+    texture->draw_at(shown_area.x, shown_area.y);
+}
+
+void Preview_Pane::draw_map(const Tile_Map& map, uint64_t generation, const Tile_Store& store, const Tile* live,
+                            int live_index) {
+    int first = -1;
+    for (int c = 0; c < map.cell_count() && first < 0; ++c)
+        if (map.at(c) == live_index) first = c;
+    if (!live || first < 0) {
+        shown_cell = -1;
+        draw_tile(live);
+        return;
+    }
+    Pane::draw();
+    const int tw = live->width();
+    const int th = live->height();
+    const bool same = shown_cell == first && shown_generation == generation && shown_index == live_index &&
+                      shown_tile == live && shown_tile_w == tw && shown_tile_h == th &&
+                      std::equal(shown_pixels.begin(), shown_pixels.end(), live->pixels(),
+                                 live->pixels() + live->pixel_count());
+    if (!same) {
+        // The first cell holding the tile in the middle of the body.
+        const int ox = (first % map.columns()) * tw + tw / 2 - body_width / 2;
+        const int oy = (first / map.columns()) * th + th / 2 - body_height / 2;
+        picture.resize(size_t(body_width) * size_t(body_height));
+        for (int y = 0; y < body_height; ++y)
+            for (int x = 0; x < body_width; ++x) {
+                const int mx = ox + x, my = oy + y;
+                const bool light = ((x / checker_w) + (y / checker_h)) % 2 == 0;
+                Color c = ui_colors[ui_dark_grey];
+                if (mx >= 0 && my >= 0 && mx < map.columns() * tw && my < map.rows() * th) {
+                    const int index = map.at(mx / tw, my / th);
+                    const Tile* tile = index == live_index ? live
+                                       : index >= 0 && index < store.tile_count() ? store.tile_at(index)
+                                                                                  : nullptr;
+                    c = tile ? over(ui_colors[light ? ui_grey_169 : ui_grey_101],
+                                    turn::pixel(*tile, map.turn_at(mx / tw, my / th), mx % tw, my % th))
+                             : ui_colors[ui_dark_grey];
+                }
+                picture[size_t(y) * body_width + size_t(x)] = c;
+            }
+        if (!texture || texture->width() != body_width || texture->height() != body_height) {
+            texture.reset(Texture::from_pixels(g_main_window->renderer(), picture.data(), body_width, body_height));
+            texture->set_opaque(true);
+        } else {
+            texture->update(picture.data());
+        }
+        shown_tile = live;
+        shown_tile_w = tw;
+        shown_tile_h = th;
+        shown_pixels.assign(live->pixels(), live->pixels() + live->pixel_count());
+        // The repeated picture must be composed again when it comes back.
+        shown_across = 0;
+        shown_cell = first;
+        shown_generation = generation;
+        shown_index = live_index;
+        shown_area = Rectangle{area.x, area.y + header_height, body_width, body_height};
+    }
     texture->draw_at(shown_area.x, shown_area.y);
 }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstdint>
 #include <memory>
 #include <vector>
 
@@ -8,6 +9,8 @@
 
 class Texture;
 class Tile;
+class Tile_Map;
+class Tile_Store;
 
 // "Preview": the current tile at its real size, repeated side by side over the
 // alpha-grid checkerboard, the way it will lie in a map, so that a seam shows.
@@ -31,6 +34,12 @@ public:
 
     // The pane with the tile repeated; no tile leaves the body empty.
     void draw_tile(const Tile* tile);
+    // The map around the first cell that holds the live tile's index, at real
+    // size, the live tile (the one being drawn) standing in for every cell
+    // that holds it; the tile repeated when no cell does. The map's
+    // generation tells when its cells changed.
+    void draw_map(const Tile_Map& map, uint64_t generation, const Tile_Store& store, const Tile* live,
+                  int live_index);
     // Where the repeated picture stands; empty before it was first drawn.
     Rectangle picture_area() const { return shown_area; }
 
@@ -52,6 +61,10 @@ private:
     int shown_checker_w = 0;
     int shown_checker_h = 0;
     Rectangle shown_area{};
+    // What the map picture shows: none when it shows the repeated tile.
+    uint64_t shown_generation = 0;
+    int shown_cell = -1;
+    int shown_index = -1;
     std::vector<Color> picture;
     std::unique_ptr<Texture> texture;
 };

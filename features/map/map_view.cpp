@@ -158,6 +158,7 @@ bool Map_View::handle(const SDL_Event& event) {
                 case SDLK_I: push_button(button_image); break;
                 case SDLK_G: push_button(button_grid); break;
                 case SDLK_S: push_button(button_seams); break;
+                case SDLK_V: push_button(button_preview); break;
                 case SDLK_Z:
                     if (ctrl) push_button(button_undo);
                     break;
@@ -319,6 +320,7 @@ void Map_View::push_button(int which) {
             break;
         case button_grid: grid = !grid; break;
         case button_seams: seams = !seams; break;
+        case button_preview: editor.in_preview = !editor.in_preview; break;
         case button_image:
             if (save_image) save_image(::map_image(editor.map(), store));
             break;

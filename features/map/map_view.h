@@ -26,15 +26,16 @@ class Tile_Store;
 // strip under the chooser chooses and adds terrains and shows the corner
 // combinations that have no tile yet, which the map marks where they are wanted.
 // Escape, "Close", a quit or a close request close it. Keys: p paint, f fill,
-// e eraser, t terrain, g grid, s seams, i the map's image, x and y flip the
+// e eraser, t terrain, g grid, s seams, v the map in the editor's Preview
+// (drawn live around the tile being drawn), i the map's image, x and y flip the
 // painted tile across and upside down, r turns it a quarter clockwise (square
 // tiles), Ctrl+Z undo, Ctrl+R (as in the main window) or Ctrl+Y redo. The
 // right button picks a cell's tile with its turn.
 class Map_View {
 public:
     enum Tool { tool_paint, tool_fill, tool_eraser, tool_terrain };
-    enum Button { button_paint, button_fill, button_eraser, button_terrain, button_grid, button_seams, button_undo,
-                  button_redo, button_image, button_close, button_count };
+    enum Button { button_paint, button_fill, button_eraser, button_terrain, button_grid, button_seams, button_preview,
+                  button_undo, button_redo, button_image, button_close, button_count };
     static constexpr int map_room = 560;
     static constexpr int chooser_columns = 16;
     static constexpr int chooser_cell = 32;

@@ -27,8 +27,8 @@ constexpr Color pressed_face = ui_colors[ui_background];
 // A seam mark covers this many pixels on each side of its edge.
 constexpr int seam_half_width = 1;
 
-const char* const button_labels[Map_View::button_count] = {"Paint", "Fill", "Eraser", "Terrain", "Grid",
-                                                           "Seams", "Undo", "Redo",   "Image",   "Close"};
+const char* const button_labels[Map_View::button_count] = {"Paint", "Fill", "Eraser", "Terrain", "Grid",   "Seams",
+                                                           "Preview", "Undo", "Redo", "Image",   "Close"};
 constexpr Color missing_color = ui_colors[ui_magenta];
 constexpr Color mark_frame = ui_colors[ui_black];
 
@@ -236,7 +236,7 @@ void Map_View::draw_buttons() {
                           (b == button_fill && current_tool == tool_fill) ||
                           (b == button_eraser && current_tool == tool_eraser) ||
                           (b == button_terrain && current_tool == tool_terrain) || (b == button_grid && grid) ||
-                          (b == button_seams && seams);
+                          (b == button_seams && seams) || (b == button_preview && editor.in_preview);
         if (down) {
             w.fill_opaque(r, pressed_face);
             w.bevel(r, pressed_face, true);
@@ -252,22 +252,27 @@ void Map_View::draw_status() {
     Main_Window& w = *g_main_window;
     Text_Writer& t = w.writer(font_regular);
     const Rectangle r = button(button_redo);
-    int x = r.x + r.width + 24;
+    int x = r.x + r.width + 16;
     const int y = r.y + (r.height - t.line_height()) / 2;
+    // Each item is written while it fits before the "Image" button.
+    const int end = button(button_image).x - 8;
     char text[64];
+    auto write = [&] {
+        if (x + t.measure(text) > end) return;
+        t.write_at(x, y, text);
+        x += t.measure(text) + 16;
+    };
     if (seams) {
         std::snprintf(text, sizeof text, "Seams: %d", int(seam_list().size()));
-        t.write_at(x, y, text);
-        x += t.measure(text) + 24;
+        write();
     }
-    // The keys that turn the painted tile, and how it is turned now.
-    static const char* const turns[8] = {"as drawn",      "flipped across", "upside down",     "half turned",
-                                         "on its diagonal", "quarter turned", "three quarters", "on the other diagonal"};
-    std::snprintf(text, sizeof text, "Tile %s (x, y, r)", turns[brush_turn & 7]);
-    t.write_at(x, y, text);
-    x += t.measure(text) + 24;
+    // The keys that flip and turn the painted tile, and how it is turned now.
+    static const char* const turns[8] = {"as drawn", "flipped",   "upside down",  "half turn",
+                                         "diagonal", "turned",    "turned back",  "other diagonal"};
+    std::snprintf(text, sizeof text, "x y r: %s", turns[brush_turn & 7]);
+    write();
     if (hover_column >= 0) {
         std::snprintf(text, sizeof text, "Cell %d, %d", hover_column, hover_row);
-        t.write_at(x, y, text);
+        write();
     }
 }

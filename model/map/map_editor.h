@@ -81,6 +81,10 @@ public:
     // (file_stamp).
     std::string own_file;
     safe_file::Stamp file_stamp;
+    // The editor's Preview shows this map around the tile being drawn
+    // (a view setting of this session, not kept in the file).
+    bool in_preview = false;
+
     // Whether the cells are as last read or written.
     bool is_saved() const { return saved_edits == edits; }
     void mark_saved();

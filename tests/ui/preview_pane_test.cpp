@@ -50,3 +50,30 @@ TEST_F(PreviewTest, AFloatingImageShowsWhereItFloats) {
     EXPECT_NE(read_pixel(area.x + 3, area.y + 3), red);
     EXPECT_EQ(tile().get_pixel(10, 12), Color(0, 0, 0)) << "still floating, not put down";
 }
+
+// With the map shown, the Preview centres the first cell holding the tile
+// and draws the tile being drawn into every cell that holds it.
+TEST_F(PreviewTest, TheMapAroundTheTileFollowsTheStroke) {
+    Tileset& t = *g_editor->current();  // one 24 x 24 tile, opaque black
+    ASSERT_TRUE(t.store().add_tile());  // tile 1 current, black too
+    t.store().tile_at(0)->fill(Color(40, 160, 60));
+    t.map().place(3, 2, 1);
+    t.map().place(4, 2, 1, turn::flip_h);
+    t.map().place(2, 2, 0);
+    t.map().in_preview = true;
+    use_tool(command_pen);
+    set_colors(Color(250, 240, 10), Color(0, 0, 0));
+    stroke({{1, 5}});
+    g_editor->repaint(false);
+    const Rectangle area = g_message_box->preview().picture_area();
+    // Cell (3, 2)'s middle is the body's middle.
+    const int ox = area.x + area.width / 2 - 12 - 3 * 24, oy = area.y + area.height / 2 - 12 - 2 * 24;
+    EXPECT_EQ(read_pixel(ox + 3 * 24 + 1, oy + 2 * 24 + 5), Color(250, 240, 10));
+    EXPECT_EQ(read_pixel(ox + 4 * 24 + 22, oy + 2 * 24 + 5), Color(250, 240, 10)) << "flipped across";
+    EXPECT_EQ(read_pixel(ox + 2 * 24 + 5, oy + 2 * 24 + 5), Color(40, 160, 60));
+    // A tile the map does not use is shown repeated.
+    t.map().place(2, 2, Tile_Map::empty);
+    g_editor->execute(command_previous_tile);
+    g_editor->repaint(false);
+    EXPECT_EQ(g_message_box->preview().picture_area().width, 2 * 24);
+}
