@@ -74,6 +74,51 @@ void BM_map_view_repaint(benchmark::State& state) {
     state.counters["seams"] = double(view.seam_list().size());
 }
 
+// A terrain stroke through the map window: 2,000 motion events zig-zagging
+// over a full map of 6 x 6 tiles with a two-terrain set of all sixteen
+// combinations, timed per cell the stroke touched (four around each corner).
+void BM_terrain_drag(benchmark::State& state) {
+    Bench_Program program;
+    Tileset& t = full_map(false);
+    Terrain_Set set;
+    set.add_terrain(), set.add_terrain();
+    for (int k = 0; k < tile_kinds; ++k)
+        set.set_corners(k, {uint8_t(k / 8 + 1), uint8_t(k / 4 % 2 + 1), uint8_t(k / 2 % 2 + 1), uint8_t(k % 2 + 1)});
+    t.map().set_terrain(set);
+    Map_View view(t.map(), t.store(), "bench");
+    press_key(view, SDLK_T);
+    const Rectangle p = view.picture();
+    const int cell = p.width / 80;
+    auto event = [&](Uint32 type, int i) {
+        SDL_Event e{};
+        e.type = type;
+        const float x = float(p.x + cell * (1 + (i * 3) % 78)), y = float(p.y + cell * (1 + (i / 26) % 78));
+        e.button.button = SDL_BUTTON_LEFT;
+        e.button.x = x, e.button.y = y;
+        if (type == SDL_EVENT_MOUSE_MOTION) e.motion.x = x, e.motion.y = y, e.motion.state = SDL_BUTTON_LMASK;
+        view.handle(e);
+    };
+    int terrain = 1;
+    for (auto _ : state) {
+        // Each run paints the other terrain, so every corner changes.
+        terrain = 3 - terrain;
+        state.PauseTiming();
+        SDL_Event pick{};
+        pick.type = SDL_EVENT_MOUSE_BUTTON_DOWN;
+        pick.button.button = SDL_BUTTON_LEFT;
+        pick.button.x = float(view.terrain_swatch(terrain).x + 2), pick.button.y = float(view.terrain_swatch(terrain).y + 2);
+        view.handle(pick);
+        state.ResumeTiming();
+        event(SDL_EVENT_MOUSE_BUTTON_DOWN, 0);
+        for (int i = 1; i <= 2000; ++i) event(SDL_EVENT_MOUSE_MOTION, i);
+        event(SDL_EVENT_MOUSE_BUTTON_UP, 2000);
+    }
+    // About four cells around each of the 2,000 corners.
+    state.counters["cells"] = 4 * 2000;
+    state.counters["per_cell"] = benchmark::Counter(double(state.iterations()) * 4 * 2000,
+                                                    benchmark::Counter::kIsRate | benchmark::Counter::kInvert);
+}
+
 void BM_seam_check(benchmark::State& state) {
     Bench_Program program;
     Tileset& t = full_map(state.range(0) == 1);
@@ -92,5 +137,6 @@ BENCHMARK(BM_clear_and_present_beside_map)->Unit(benchmark::kMillisecond)->MinTi
 BENCHMARK(BM_map_view_repaint)->Unit(benchmark::kMillisecond)->MinTime(0.5)->Repetitions(5)
     ->ReportAggregatesOnly(true)->Arg(0)->Arg(1);
 // 0: every edge a seam; 1: no seams, every pair compared whole.
+BENCHMARK(BM_terrain_drag)->Unit(benchmark::kMillisecond)->Iterations(6);
 BENCHMARK(BM_seam_check)->Unit(benchmark::kMillisecond)->MinTime(0.5)->Repetitions(5)
     ->ReportAggregatesOnly(true)->Arg(0)->Arg(1);

@@ -12,6 +12,7 @@
 #include "platform/main_window.h"
 #include "bench/bench_program.h"
 #include "model/tile/tile.h"
+#include "model/tileset/tileset.h"
 
 namespace {
 void BM_clear_and_present(benchmark::State& state) {
@@ -92,6 +93,20 @@ void BM_repaint_preview_64(benchmark::State& state) {
     tile.update_texture();
     repaint_after(state, Change(state.range(0)));
 }
+
+// The default view with the map in the "Preview": four 24 x 24 tiles laid
+// over the whole 20 x 20 map, the current tile among them.
+void BM_repaint_map_preview(benchmark::State& state) {
+    Bench_Program program;
+    Tileset& t = *g_editor->current();
+    while (t.store().tile_count() < 4) t.store().add_tile();
+    for (int k = 0; k < 4; ++k) t.store().tile_at(k)->fill(Color(uint8_t(60 * k), 120, uint8_t(200 - 40 * k)));
+    for (int y = 0; y < t.map().map().rows(); ++y)
+        for (int x = 0; x < t.map().map().columns(); ++x) t.map().place(x, y, (x + 2 * y) % 4, (x + y) % 8);
+    t.map().in_preview = true;
+    g_editor->show_current_tile();
+    repaint_after(state, Change(state.range(0)));
+}
 }  // namespace
 
 BENCHMARK(BM_clear_and_present)->Unit(benchmark::kMillisecond)->MinTime(1.0);
@@ -101,3 +116,5 @@ BENCHMARK(BM_clear_and_present)->Unit(benchmark::kMillisecond)->MinTime(1.0);
 BENCHMARK(BM_repaint_default_view)->Unit(benchmark::kMillisecond)->MinTime(1.0)->Arg(0)->Arg(1)->Arg(2)->Arg(4);
 BENCHMARK(BM_repaint_heaviest_canvas)->Unit(benchmark::kMillisecond)->MinTime(1.0)->Arg(0)->Arg(1)->Arg(2)->Arg(3);
 BENCHMARK(BM_repaint_preview_64)->Unit(benchmark::kMillisecond)->MinTime(1.0)->Arg(0)->Arg(2)->Arg(3);
+// 0: unchanged; 2: after a pointer move; 3: after one pixel of the tile the map shows.
+BENCHMARK(BM_repaint_map_preview)->Unit(benchmark::kMillisecond)->MinTime(1.0)->Arg(0)->Arg(2)->Arg(3);

@@ -118,22 +118,31 @@ void Preview_Pane::draw_map(const Tile_Map& map, uint64_t generation, const Tile
         // The first cell holding the tile in the middle of the body.
         const int ox = (first % map.columns()) * tw + tw / 2 - body_width / 2;
         const int oy = (first / map.columns()) * th + th / 2 - body_height / 2;
-        picture.resize(size_t(body_width) * size_t(body_height));
-        for (int y = 0; y < body_height; ++y)
-            for (int x = 0; x < body_width; ++x) {
-                const int mx = ox + x, my = oy + y;
-                const bool light = ((x / checker_w) + (y / checker_h)) % 2 == 0;
-                Color c = ui_colors[ui_dark_grey];
-                if (mx >= 0 && my >= 0 && mx < map.columns() * tw && my < map.rows() * th) {
-                    const int index = map.at(mx / tw, my / th);
-                    const Tile* tile = index == live_index ? live
-                                       : index >= 0 && index < store.tile_count() ? store.tile_at(index)
-                                                                                  : nullptr;
-                    c = tile ? over(ui_colors[light ? ui_grey_169 : ui_grey_101],
-                                    turn::pixel(*tile, map.turn_at(mx / tw, my / th), mx % tw, my % th))
-                             : ui_colors[ui_dark_grey];
+        picture.assign(size_t(body_width) * size_t(body_height), ui_colors[ui_dark_grey]);
+        // Cell by cell over the body, each cell's rows read straight from its
+        // tile unless it is turned: this runs at every event of a stroke.
+        const int first_cx = std::max(0, ox / tw), first_cy = std::max(0, oy / th);
+        for (int cy = first_cy; cy < map.rows() && cy * th < oy + body_height; ++cy)
+            for (int cx = first_cx; cx < map.columns() && cx * tw < ox + body_width; ++cx) {
+                const int index = map.at(cx, cy);
+                const Tile* tile = index == live_index ? live
+                                   : index >= 0 && index < store.tile_count() ? store.tile_at(index)
+                                                                              : nullptr;
+                if (!tile) continue;
+                const int t = map.turn_at(cx, cy);
+                const int x0 = std::max(cx * tw - ox, 0), x1 = std::min((cx + 1) * tw - ox, body_width);
+                const int y0 = std::max(cy * th - oy, 0), y1 = std::min((cy + 1) * th - oy, body_height);
+                for (int y = y0; y < y1; ++y) {
+                    const int ty = y + oy - cy * th;
+                    Color* out = picture.data() + size_t(y) * body_width;
+                    const int checker_row = y / checker_h;
+                    for (int x = x0; x < x1; ++x) {
+                        const int tx = x + ox - cx * tw;
+                        const Color c = t == turn::none ? tile->pixels()[ty * tw + tx] : turn::pixel(*tile, t, tx, ty);
+                        const bool light = ((x / checker_w) + checker_row) % 2 == 0;
+                        out[x] = over(ui_colors[light ? ui_grey_169 : ui_grey_101], c);
+                    }
                 }
-                picture[size_t(y) * body_width + size_t(x)] = c;
             }
         if (!texture || texture->width() != body_width || texture->height() != body_height) {
             texture.reset(Texture::from_pixels(g_main_window->renderer(), picture.data(), body_width, body_height));

@@ -100,7 +100,10 @@ std::string wangset_text(const Terrain_Set& set, const std::string& indent) {
         int place[8] = {};
         for (int k = 0; k < 4; ++k) place[corner_place[k]] = c[size_t(k)];
         std::string id;
-        for (int k = 0; k < 8; ++k) id += (k ? "," : "") + std::to_string(place[k]);
+        for (int k = 0; k < 8; ++k) {
+            if (k) id += ',';
+            id += std::to_string(place[k]);
+        }
         text += indent + " <wangtile tileid=\"" + std::to_string(tile) + "\" wangid=\"" + id + "\"/>\n";
     }
     return text + indent + "</wangset>";
