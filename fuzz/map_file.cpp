@@ -26,15 +26,23 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
     }
     if (placed != r.cells) std::abort();
     if (r.whole != r.problems.empty()) std::abort();
+    // The terrain set names only tiles the tileset has, and its own terrains.
+    const Terrain_Set& terrain = map.terrain();
+    if (terrain.terrain_count() > Terrain_Set::most_terrains) std::abort();
+    for (const auto& [tile, corners] : terrain.tiles()) {
+        if (tile < 0 || tile >= tile_count) std::abort();
+        for (uint8_t c : corners)
+            if (c > terrain.terrain_count()) std::abort();
+    }
     // Written back into the same text (only the tile layer is replaced), the
     // map reads back cell for cell.
     static const std::string out = (fuzz::private_dir() / "output.tmx").string();
     const std::string source(reinterpret_cast<const char*>(data), size);
-    if (!Map_File::write(map.map(), 24, 24, out, source)) std::abort();
+    if (!Map_File::write(map.map(), 24, 24, out, source, &terrain)) std::abort();
     Map_Editor back(24, 24);
     const Map_File::Reading again = Map_File::read(out, back, 24, 24, tile_count);
     for (int c = 0; c < map.map().cell_count(); ++c)
-        if (back.map().at(c) != map.map().at(c)) std::abort();
+        if (back.map().at(c) != map.map().at(c) || back.map().turn_at(c) != map.map().turn_at(c)) std::abort();
     if (!again.found) std::abort();
     return 0;
 }

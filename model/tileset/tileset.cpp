@@ -45,6 +45,9 @@ int Tileset::make_map() {
     int left_out = 0;
     if (old) {
         left_out = map_editor->take_cells(old->map());
+        // The tiles are the same tiles at another size: their terrains stay.
+        map_editor->place_terrain(old->terrain());
+        map_editor->in_preview = old->in_preview;
         if (left_out == 0) map_editor->own_file = old->own_file;
         map_editor->file_stamp = old->file_stamp;
     }

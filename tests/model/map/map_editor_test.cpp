@@ -66,7 +66,12 @@ TEST(MapEditor, ANewTileSizeMakesANewMapOfItsCellCountKeepingTheCellsThatFit) {
     t.map().paint(2, 2, 0);
     t.map().end_stroke();
     t.map().own_file = "forest.tmx";
+    Terrain_Set set;
+    set.add_terrain();
+    set.set_corners(0, {1, 1, 1, 1});
+    t.map().set_terrain(set);
     EXPECT_EQ(t.resize_tiles(6, 32), 0);
+    EXPECT_TRUE(t.map().terrain() == set) << "the same tiles keep their terrains";
     EXPECT_EQ(t.map().map().columns(), 80);
     EXPECT_EQ(t.map().map().rows(), 15);
     EXPECT_EQ(t.map().map().at(1, 1), 0);
