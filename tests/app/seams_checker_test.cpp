@@ -15,6 +15,7 @@
 #include <cstdlib>
 #include <deque>
 #include <map>
+#include <string_view>
 #include <optional>
 #include <functional>
 #include <random>
@@ -46,7 +47,7 @@ Seen seen_of(const Tile_Store& store, const Tile* shown, const Tile_Map& map) {
         s.tiles.emplace_back();
         for (int p = 0; p < tile->pixel_count(); ++p) s.tiles.back().push_back(tile->pixels()[p].word());
     }
-    for (int c = 0; c < map.cell_count(); ++c) s.cells.push_back(map.at(c));
+    for (int c = 0; c < map.cell_count(); ++c) s.cells.push_back(map.at(c) < 0 ? -1 : map.at(c) * 8 + map.turn_at(c));
     return s;
 }
 
@@ -126,7 +127,25 @@ protected:
         map.begin_stroke();
         const int x = pick(map.map().columns());
         const int y = pick(map.map().rows());
-        map.paint_line(x, y, x + pick(5), y + pick(3), tile);
+        map.paint_line(x, y, x + pick(5), y + pick(3), tile, pick(8));
+        map.end_stroke();
+    }
+
+    // Corners marked on a tile (which fills cells left for that combination),
+    // or a terrain stroke over a few corners.
+    void terrain_step() {
+        Map_Editor& map = current().map();
+        Terrain_Set set = map.terrain();
+        while (set.terrain_count() < 2) set.add_terrain();
+        if (pick(3) == 0 || map.terrain().terrain_count() < 2) {
+            set.set_corners(pick(current().store().tile_count()),
+                            {uint8_t(pick(3)), uint8_t(pick(3)), uint8_t(pick(3)), uint8_t(pick(3))});
+            map.set_terrain(set);
+            return;
+        }
+        map.begin_stroke();
+        const int x = pick(map.map().columns()), y = pick(map.map().rows());
+        for (int k = 0; k < 4; ++k) map.paint_terrain(x + k % 2, y + k / 2, 1 + pick(2));
         map.end_stroke();
     }
 
@@ -334,6 +353,7 @@ TEST_F(Checker, UndoRedoSaveAndLoadGiveBackWhatTheUserSaw) {
         {"deselect", 2, [] { run(command_deselect); }},
         {"selection mode", 1, [&] { g_tool_options->set_selection_mode(pick(3)); }},
         {"map stroke", 4, [&] { map_stroke(); }},
+        {"terrain", 3, [&] { terrain_step(); }},
         {"arrange swap", 1, [&] { arrange_swap(); }},
         {"tab", 2, [&] { switch_tab(); }},
         {"save and load", 1, [&] { save_and_load(*track); }},
@@ -341,7 +361,14 @@ TEST_F(Checker, UndoRedoSaveAndLoadGiveBackWhatTheUserSaw) {
         {"redo", 6, [&] { redo(*track); }},
         {"sweep", 1, sweep},
     };
-    constexpr int changes = 18, tab = 16;
+    // Every operation before undo changes what the user sees; a tab switch
+    // leaves the tileset it left as it was.
+    auto index_of = [&](std::string_view name) {
+        int i = 0;
+        while (operations[i].name != name) ++i;
+        return i;
+    };
+    const int changes = index_of("undo"), tab = index_of("tab");
     int total = 0;
     for (const auto& o : operations) total += o.weight;
     int step = 0;
