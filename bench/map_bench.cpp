@@ -51,10 +51,27 @@ void BM_clear_and_present_beside_map(benchmark::State& state) {
     }
 }
 
-// 0: nothing changed between repaints; 1: one cell painted before each.
+// Two terrains over every corner of the map, one of the sixteen
+// combinations without a tile: its cells are marked missing.
+void paint_terrains(Tileset& t) {
+    Terrain_Set set;
+    set.add_terrain(), set.add_terrain();
+    for (int k = 0; k < tile_kinds; ++k)
+        if (k != 5)
+            set.set_corners(k, {uint8_t(k / 8 + 1), uint8_t(k / 4 % 2 + 1), uint8_t(k / 2 % 2 + 1), uint8_t(k % 2 + 1)});
+    t.map().set_terrain(set);
+    t.map().begin_stroke();
+    for (int y = 0; y <= 80; ++y)
+        for (int x = 0; x <= 80; ++x) t.map().paint_terrain(x, y, 1 + (x * 7 + y * 13) % 5 / 4);
+    t.map().end_stroke();
+}
+
+// 0: nothing changed between repaints; 1: one cell painted before each;
+// 2: terrains everywhere with their marks, one corner painted before each.
 void BM_map_view_repaint(benchmark::State& state) {
     Bench_Program program;
     Tileset& t = full_map(false);
+    if (state.range(0) == 2) paint_terrains(t);
     Map_View view(t.map(), t.store(), "bench");
     press_key(view, SDLK_S);
     press_key(view, SDLK_G);
@@ -67,11 +84,17 @@ void BM_map_view_repaint(benchmark::State& state) {
             t.map().begin_stroke();
             t.map().paint(step % 80, (step / 80) % 80, step % tile_kinds);
             t.map().end_stroke();
+        } else if (state.range(0) == 2) {
+            ++step;
+            t.map().begin_stroke();
+            t.map().paint_terrain(step % 81, (step / 81) % 81, 1 + step % 2);
+            t.map().end_stroke();
         }
         Backdrop::paint();
         g_main_window->present();
     }
     state.counters["seams"] = double(view.seam_list().size());
+    state.counters["missing"] = double(view.missing_cells().size());
 }
 
 // A terrain stroke through the map window: 2,000 motion events zig-zagging
@@ -135,7 +158,7 @@ void BM_seam_check(benchmark::State& state) {
 BENCHMARK(BM_clear_and_present_beside_map)->Unit(benchmark::kMillisecond)->MinTime(0.5)->Repetitions(5)
     ->ReportAggregatesOnly(true);
 BENCHMARK(BM_map_view_repaint)->Unit(benchmark::kMillisecond)->MinTime(0.5)->Repetitions(5)
-    ->ReportAggregatesOnly(true)->Arg(0)->Arg(1);
+    ->ReportAggregatesOnly(true)->Arg(0)->Arg(1)->Arg(2);
 // 0: every edge a seam; 1: no seams, every pair compared whole.
 BENCHMARK(BM_terrain_drag)->Unit(benchmark::kMillisecond)->Iterations(6);
 BENCHMARK(BM_seam_check)->Unit(benchmark::kMillisecond)->MinTime(0.5)->Repetitions(5)

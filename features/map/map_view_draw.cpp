@@ -156,14 +156,41 @@ void Map_View::draw_terrain() {
     Main_Window& w = *g_main_window;
     const Terrain_Set& set = editor.terrain();
     if (set.terrain_count() == 0) return;
+    // The missing cells' marks in a few batches: the frames, each terrain's
+    // corner squares, their dark edges.
     const Tile_Map& map = editor.map();
     const int mark = std::clamp(int(store.tile_width()) * factor / 4, 3, 8);
-    for (const int cell : missing_cells()) {
-        const Rectangle r = cell_area(cell % map.columns(), cell / map.columns());
-        w.frame(r, missing_color);
-        draw_corners(Rectangle{r.x + 1, r.y + 1, r.width - 2, r.height - 2}, set,
-                     editor.wanted(cell % map.columns(), cell / map.columns()), mark);
+    auto outline = [this](const Rectangle& r) {
+        marks.push_back(Rectangle{r.x, r.y, r.width, 1});
+        marks.push_back(Rectangle{r.x, r.y + r.height - 1, r.width, 1});
+        marks.push_back(Rectangle{r.x, r.y + 1, 1, r.height - 2});
+        marks.push_back(Rectangle{r.x + r.width - 1, r.y + 1, 1, r.height - 2});
+    };
+    auto each_square = [&](auto&& visit) {
+        for (const int cell : missing_cells()) {
+            const int cx = cell % map.columns(), cy = cell / map.columns();
+            const Rectangle r = cell_area(cx, cy);
+            const int xs[4] = {r.x + 1, r.x + r.width - 1 - mark, r.x + r.width - 1 - mark, r.x + 1};
+            const int ys[4] = {r.y + 1, r.y + 1, r.y + r.height - 1 - mark, r.y + r.height - 1 - mark};
+            const Terrain_Set::Corners c = editor.wanted(cx, cy);
+            for (int k = 0; k < 4; ++k) visit(int(c[size_t(k)]), Rectangle{xs[k], ys[k], mark, mark});
+        }
+    };
+    marks.clear();
+    for (const int cell : missing_cells()) outline(cell_area(cell % map.columns(), cell / map.columns()));
+    w.fill_opaque(marks.data(), int(marks.size()), missing_color);
+    for (int k = 1; k <= set.terrain_count(); ++k) {
+        marks.clear();
+        each_square([&](int terrain_at, const Rectangle& square) {
+            if (terrain_at == k) marks.push_back(square);
+        });
+        w.fill_opaque(marks.data(), int(marks.size()), set.terrains[size_t(k - 1)].color);
     }
+    marks.clear();
+    each_square([&](int terrain_at, const Rectangle& square) {
+        if (terrain_at >= 1 && terrain_at <= set.terrain_count()) outline(square);
+    });
+    w.fill_opaque(marks.data(), int(marks.size()), mark_frame);
     const Rectangle c = chooser();
     Text_Writer& t = w.writer(font_regular);
     char text[64];

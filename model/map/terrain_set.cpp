@@ -41,6 +41,7 @@ bool Terrain_Set::add_terrain() {
 
 void Terrain_Set::remove_terrain(int terrain) {
     if (terrain < 1 || terrain > terrain_count()) return;
+    index_stale = true;
     terrains.erase(terrains.begin() + (terrain - 1));
     for (auto it = members.begin(); it != members.end();) {
         for (uint8_t& c : it->second) c = c == terrain ? 0 : c > terrain ? uint8_t(c - 1) : c;
@@ -58,6 +59,7 @@ Terrain_Set::Corners Terrain_Set::corners(int tile) const {
 
 void Terrain_Set::set_corners(int tile, const Corners& corners) {
     if (tile < 0) return;
+    index_stale = true;
     if (corners == Corners{})
         members.erase(tile);
     else
@@ -69,10 +71,14 @@ bool Terrain_Set::complete(const Corners& corners) const {
 }
 
 int Terrain_Set::tile_for(const Corners& wanted, int x, int y) const {
-    std::vector<int> matching;
-    for (const auto& [tile, c] : members)
-        if (c == wanted) matching.push_back(tile);
-    if (matching.empty()) return -1;
+    if (index_stale) {
+        by_corners.clear();
+        for (const auto& [tile, c] : members) by_corners[c].push_back(tile);
+        index_stale = false;
+    }
+    const auto found = by_corners.find(wanted);
+    if (found == by_corners.end()) return -1;
+    const std::vector<int>& matching = found->second;
     const uint32_t h = mix(uint32_t(x) * 73856093U ^ mix(uint32_t(y) * 19349663U));
     return matching[h % matching.size()];
 }
@@ -103,12 +109,14 @@ std::vector<Terrain_Set::Corners> Terrain_Set::missing() const {
 }
 
 void Terrain_Set::tile_inserted(int index) {
+    index_stale = true;
     std::map<int, Corners> moved;
     for (const auto& [tile, c] : members) moved[Tile_Map::inserted(tile, index)] = c;
     members.swap(moved);
 }
 
 void Terrain_Set::tile_removed(int index) {
+    index_stale = true;
     std::map<int, Corners> moved;
     for (const auto& [tile, c] : members)
         if (const int t = Tile_Map::removed(tile, index); t >= 0) moved[t] = c;
@@ -116,6 +124,7 @@ void Terrain_Set::tile_removed(int index) {
 }
 
 void Terrain_Set::tiles_swapped(int a, int b) {
+    index_stale = true;
     std::map<int, Corners> moved;
     for (const auto& [tile, c] : members) moved[Tile_Map::swapped(tile, a, b)] = c;
     members.swap(moved);

@@ -66,4 +66,8 @@ public:
 
 private:
     std::map<int, Corners> members;
+    // The tiles of each combination, made again after any change of the
+    // members: the map window asks for every cell at every change of the map.
+    mutable std::map<Corners, std::vector<int>> by_corners;
+    mutable bool index_stale = true;
 };
