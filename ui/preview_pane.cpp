@@ -51,6 +51,16 @@ bool Preview_Pane::same_as_shown(const Tile& tile) const {
            std::equal(shown_pixels.begin(), shown_pixels.end(), tile.pixels(), tile.pixels() + tile.pixel_count());
 }
 
+// A texture is made only when the picture's size changed.
+void Preview_Pane::upload(int width, int height) {
+    if (!texture || texture->width() != width || texture->height() != height) {
+        texture.reset(Texture::from_pixels(g_main_window->renderer(), picture.data(), width, height));
+        texture->set_opaque(true);
+    } else {
+        texture->update(picture.data());
+    }
+}
+
 // The checkerboard runs on across the repeats, as it would under a map.
 void Preview_Pane::compose(const Tile& tile) {
     const int tw = tile.width();
@@ -72,12 +82,7 @@ void Preview_Pane::compose(const Tile& tile) {
             if (++tx == tw) tx = 0;
         }
     }
-    if (!texture || texture->width() != width || texture->height() != height) {
-        texture.reset(Texture::from_pixels(g_main_window->renderer(), picture.data(), width, height));
-        texture->set_opaque(true);
-    } else {
-        texture->update(picture.data());
-    }
+    upload(width, height);
     shown_tile = &tile;
     shown_tile_w = tw;
     shown_tile_h = th;
@@ -99,9 +104,19 @@ void Preview_Pane::draw_tile(const Tile* tile) {
 
 void Preview_Pane::draw_map(const Tile_Map& map, uint64_t generation, const Tile_Store& store, const Tile* live,
                             int live_index) {
-    int first = -1;
-    for (int c = 0; c < map.cell_count() && first < 0; ++c)
-        if (map.at(c) == live_index) first = c;
+    // Looked for again only when the cells or the tile changed: a repaint
+    // runs at every event.
+    const bool still_there = searched_cell >= 0 && searched_cell < map.cell_count() && map.at(searched_cell) == live_index;
+    if (searched_generation != generation || searched_index != live_index || searched_map != &map ||
+        (searched_cell >= 0 && !still_there)) {
+        searched_cell = -1;
+        for (int c = 0; c < map.cell_count() && searched_cell < 0; ++c)
+            if (map.at(c) == live_index) searched_cell = c;
+        searched_generation = generation;
+        searched_index = live_index;
+        searched_map = &map;
+    }
+    const int first = searched_cell;
     if (!live || first < 0) {
         shown_cell = -1;
         draw_tile(live);
@@ -144,12 +159,7 @@ void Preview_Pane::draw_map(const Tile_Map& map, uint64_t generation, const Tile
                     }
                 }
             }
-        if (!texture || texture->width() != body_width || texture->height() != body_height) {
-            texture.reset(Texture::from_pixels(g_main_window->renderer(), picture.data(), body_width, body_height));
-            texture->set_opaque(true);
-        } else {
-            texture->update(picture.data());
-        }
+        upload(body_width, body_height);
         shown_tile = live;
         shown_tile_w = tw;
         shown_tile_h = th;

@@ -46,6 +46,7 @@ public:
 private:
     bool same_as_shown(const Tile& tile) const;
     void compose(const Tile& tile);
+    void upload(int width, int height);
 
     int across = 2;
     int down = 2;
@@ -65,6 +66,11 @@ private:
     uint64_t shown_generation = 0;
     int shown_cell = -1;
     int shown_index = -1;
+    // The first cell holding the tile, as last looked for.
+    const Tile_Map* searched_map = nullptr;
+    uint64_t searched_generation = 0;
+    int searched_index = -1;
+    int searched_cell = -1;
     std::vector<Color> picture;
     std::unique_ptr<Texture> texture;
 };
