@@ -39,7 +39,7 @@ int write_map_image(const std::string& input, const Tile_Store& tiles, const std
     if (!reading.found) return fail(file_name(input) + " has no map beside it (" + file_name(map_path) + ")");
     if (!reading.whole)
         return fail(file_name(map_path) + " could not be read whole: " + first_line(reading.problems));
-    if (!write_picture(out, map_image(map.map(), tiles))) return fail("could not write " + out);
+    if (!write_picture(out, map_image(map, tiles))) return fail("could not write " + out);
     return 0;
 }
 }  // namespace

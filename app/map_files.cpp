@@ -39,13 +39,13 @@ bool save_map(Tileset& tileset) {
     const bool own = map.own_file == path;
     // Nothing to keep, and no file of the user's is touched: a blank map
     // writes nothing, and no map file is ever removed.
-    if (map.map().is_blank() && !own) {
+    if (map.is_blank() && !own) {
         map.mark_saved();
         return true;
     }
     const bool changed_on_disk = own && exists && safe_file::stamp_of(path) != map.file_stamp;
     if (exists && (!own || changed_on_disk) && !ask_to_replace(path, !own)) return false;
-    // What another program keeps in the file stays; only the tile layer is ours.
+    // What another program keeps in the file stays; only the tile layers are ours.
     const std::string source = exists ? Map_File::text_of(path) : std::string();
     const std::string sheet = file_name(sheet_path);
     const bool sheet_wanted = source.empty() || Map_File::uses_sheet(source, sheet);
@@ -57,8 +57,11 @@ bool save_map(Tileset& tileset) {
         written = image.save_bmp(sheet_path, false);
     }
     const bool map_needed = !own || !map.is_saved() || changed_on_disk || !exists;
-    if (written && map_needed)
-        written = Map_File::write(map.map(), store.tile_width(), store.tile_height(), path, source, &map.terrain());
+    std::vector<int> layer_ids;
+    if (written && map_needed) {
+        written = Map_File::write(map, store.tile_width(), store.tile_height(), path, source, &layer_ids);
+        if (written) map.layers_filed(layer_ids);
+    }
     if (!written) {
         const std::string text = "Could not save the map beside the tileset as " + file_name(path) + ".";
         g_message_box->show_message("Error", text.c_str());

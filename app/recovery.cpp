@@ -65,13 +65,12 @@ void save_open_work() {
             shown = g_editor->canvas().tile_as_shown();
         Tileset_File::write(t.store(), path, shown.get());
         // The map beside it, with its sheet, so that loading the copy brings the map too.
-        if (!t.map().map().is_blank()) {
+        if (!t.map().is_blank()) {
             const Tile_Store& store = t.store();
             Image sheet(16 * store.tile_width(), 16 * store.tile_height());
             compose_sheet(store, sheet);
             sheet.save_bmp(Map_File::sheet_path(path), false);
-            Map_File::write(t.map().map(), store.tile_width(), store.tile_height(), Map_File::map_path(path), {},
-                            &t.map().terrain());
+            Map_File::write(t.map(), store.tile_width(), store.tile_height(), Map_File::map_path(path));
         }
     }
 }

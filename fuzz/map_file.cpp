@@ -19,11 +19,12 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
     // Whatever the file says, only tiles the tileset has land in the map, one
     // placed cell for each the reading counted.
     int placed = 0;
-    for (int c = 0; c < map.map().cell_count(); ++c) {
-        const int tile = map.map().at(c);
-        if (tile >= tile_count || tile < Tile_Map::empty) std::abort();
-        placed += tile != Tile_Map::empty;
-    }
+    for (int l = 0; l < map.layer_count(); ++l)
+        for (int c = 0; c < map.layer(l).cells.cell_count(); ++c) {
+            const int tile = map.layer(l).cells.at(c);
+            if (tile >= tile_count || tile < Tile_Map::empty) std::abort();
+            placed += tile != Tile_Map::empty;
+        }
     if (placed != r.cells) std::abort();
     if (r.whole != r.problems.empty()) std::abort();
     // The terrain set names only tiles the tileset has, and its own terrains.
@@ -34,15 +35,21 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
         for (uint8_t c : corners)
             if (c > terrain.terrain_count()) std::abort();
     }
-    // Written back into the same text (only the tile layer is replaced), the
-    // map reads back cell for cell.
+    // Written back into the same text (only the tile layers are replaced),
+    // the map reads back layer for layer, cell for cell.
     static const std::string out = (fuzz::private_dir() / "output.tmx").string();
     const std::string source(reinterpret_cast<const char*>(data), size);
-    if (!Map_File::write(map.map(), 24, 24, out, source, &terrain)) std::abort();
+    if (!Map_File::write(map, 24, 24, out, source)) std::abort();
     Map_Editor back(24, 24);
     const Map_File::Reading again = Map_File::read(out, back, 24, 24, tile_count);
-    for (int c = 0; c < map.map().cell_count(); ++c)
-        if (back.map().at(c) != map.map().at(c) || back.map().turn_at(c) != map.map().turn_at(c)) std::abort();
+    if (back.layer_count() != map.layer_count()) std::abort();
+    for (int l = 0; l < map.layer_count(); ++l) {
+        const Tile_Map& a = map.layer(l).cells;
+        const Tile_Map& b = back.layer(l).cells;
+        if (back.layer(l).name != map.layer(l).name || back.layer(l).visible != map.layer(l).visible) std::abort();
+        for (int c = 0; c < a.cell_count(); ++c)
+            if (b.at(c) != a.at(c) || b.turn_at(c) != a.turn_at(c)) std::abort();
+    }
     if (!again.found) std::abort();
     return 0;
 }

@@ -322,7 +322,7 @@ void Map_View::push_button(int which) {
         case button_seams: seams = !seams; break;
         case button_preview: editor.in_preview = !editor.in_preview; break;
         case button_image:
-            if (save_image) save_image(::map_image(editor.map(), store));
+            if (save_image) save_image(::map_image(editor, store));
             break;
         case button_undo: editor.undo(); break;
         case button_redo: editor.redo(); break;

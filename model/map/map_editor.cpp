@@ -6,10 +6,16 @@
 #include "model/core/line_walk.h"
 
 namespace {
-// The cells that held a tile when it left, and the mark its history entries got.
+// The cells that held a tile when it left, in each layer (those the map
+// shows and those only its history keeps), and the mark its history
+// entries got.
 struct Map_Uses : Tile_Uses {
-    std::vector<int> cells;
-    std::vector<uint8_t> turns;
+    struct In_Layer {
+        std::shared_ptr<Map_Layer> layer;
+        std::vector<int> cells;
+        std::vector<uint8_t> turns;
+    };
+    std::vector<In_Layer> layers;
     int mark = 0;
     Terrain_Set::Corners terrain{};
 };
@@ -18,8 +24,130 @@ int cells_for(uint32_t tile_extent) { return Map_Editor::extent / int(tile_exten
 }  // namespace
 
 Map_Editor::Map_Editor(uint32_t tile_width, uint32_t tile_height)
-    : cells(cells_for(tile_width), cells_for(tile_height)),
-      corners(cells_for(tile_width) + 1, cells_for(tile_height) + 1) {}
+    : corners(cells_for(tile_width) + 1, cells_for(tile_height) + 1) {
+    layer_list.push_back(
+        std::make_shared<Map_Layer>(first_layer_name, cells_for(tile_width), cells_for(tile_height), 1));
+}
+
+bool Map_Editor::is_blank() const {
+    return std::all_of(layer_list.begin(), layer_list.end(), [](const auto& l) { return l->cells.is_blank(); });
+}
+
+void Map_Editor::record_layers(Map_Edit edit) {
+    steps.record(std::move(edit));
+    ++changes;
+    count_edit();
+}
+
+void Map_Editor::choose_layer(int index) {
+    if (index < 0 || index >= layer_count() || index == current) return;
+    end_stroke();
+    current = index;
+    ++changes;
+}
+
+bool Map_Editor::add_layer() {
+    if (layer_count() >= most_layers) return false;
+    end_stroke();
+    // "Layer 2", "Layer 3"...: the first number no layer is named with.
+    std::string name;
+    for (int n = 2; name.empty(); ++n) {
+        const std::string candidate = "Layer " + std::to_string(n);
+        if (std::none_of(layer_list.begin(), layer_list.end(), [&](const auto& l) { return l->name == candidate; }))
+            name = candidate;
+    }
+    auto layer = std::make_shared<Map_Layer>(name, live().columns(), live().rows(), next_id++);
+    Map_Edit edit;
+    edit.change = Map_Edit::Layers::added;
+    edit.layer = current + 1;
+    edit.kept = layer;
+    layer_list.insert(layer_list.begin() + edit.layer, layer);
+    current = edit.layer;
+    record_layers(std::move(edit));
+    return true;
+}
+
+bool Map_Editor::remove_layer() {
+    if (layer_count() <= 1) return false;
+    end_stroke();
+    Map_Edit edit;
+    edit.change = Map_Edit::Layers::removed;
+    edit.layer = current;
+    edit.kept = layer_list[size_t(current)];
+    layer_list.erase(layer_list.begin() + current);
+    current = std::max(current - 1, 0);
+    record_layers(std::move(edit));
+    return true;
+}
+
+bool Map_Editor::rename_layer(int index, const std::string& name) {
+    if (index < 0 || index >= layer_count() || name.empty() || layer(index).name == name) return false;
+    end_stroke();
+    Map_Edit edit;
+    edit.change = Map_Edit::Layers::renamed;
+    edit.layer = index;
+    edit.name_before = layer(index).name;
+    edit.name_after = name;
+    layer_list[size_t(index)]->name = name;
+    current = index;
+    record_layers(std::move(edit));
+    return true;
+}
+
+bool Map_Editor::move_layer(int index, int to) {
+    if (index < 0 || index >= layer_count() || to < 0 || to >= layer_count() || index == to) return false;
+    end_stroke();
+    Map_Edit edit;
+    edit.change = Map_Edit::Layers::moved;
+    edit.layer = index;
+    edit.moved_to = to;
+    std::shared_ptr<Map_Layer> moving = layer_list[size_t(index)];
+    layer_list.erase(layer_list.begin() + index);
+    layer_list.insert(layer_list.begin() + to, std::move(moving));
+    current = to;
+    record_layers(std::move(edit));
+    return true;
+}
+
+void Map_Editor::show_layer(int index, bool visible) {
+    if (index < 0 || index >= layer_count() || layer(index).visible == visible) return;
+    layer_list[size_t(index)]->visible = visible;
+    ++changes;
+    count_edit();  // the file keeps it
+}
+
+void Map_Editor::place_layers(std::vector<Map_Layer> layers, std::vector<int> keys, int next) {
+    end_stroke();
+    steps.clear();
+    const int columns = live().columns(), rows = live().rows();
+    next_id = std::max(next, 1);
+    layer_list.clear();
+    for (Map_Layer& l : layers) {
+        if (int(layer_list.size()) >= most_layers) break;
+        auto placed = std::make_shared<Map_Layer>(l.name, columns, rows, l.id);
+        placed->visible = l.visible;
+        placed->file_key = l.file_key;
+        for (int y = 0; y < std::min(rows, l.cells.rows()); ++y)
+            for (int x = 0; x < std::min(columns, l.cells.columns()); ++x)
+                placed->cells.set(x, y, l.cells.at(x, y), l.cells.turn_at(x, y));
+        next_id = std::max(next_id, l.id + 1);
+        layer_list.push_back(std::move(placed));
+    }
+    if (layer_list.empty()) layer_list.push_back(std::make_shared<Map_Layer>(first_layer_name, columns, rows, next_id++));
+    file_keys = std::move(keys);
+    current = 0;
+    ++changes;
+    count_edit();
+}
+
+void Map_Editor::layers_filed(const std::vector<int>& ids) {
+    if (ids.size() != layer_list.size()) return;
+    file_keys = ids;
+    for (size_t i = 0; i < ids.size(); ++i) {
+        layer_list[i]->id = layer_list[i]->file_key = ids[i];
+        next_id = std::max(next_id, ids[i] + 1);
+    }
+}
 
 void Map_Editor::begin_stroke() {
     if (stroking) end_stroke();
@@ -28,12 +156,14 @@ void Map_Editor::begin_stroke() {
 }
 
 void Map_Editor::set_cell(int cell, int tile, int turn) {
-    const int before = cells.at(cell);
-    const int turn_before = cells.turn_at(cell);
+    const int before = live().at(cell);
+    const int turn_before = live().turn_at(cell);
     const int after = tile < 0 ? Tile_Map::empty : tile;
     const int turn_after = tile < 0 ? turn::none : turn & 7;
     if (before == after && turn_before == turn_after) return;
-    cells.put(cell, after, turn_after);
+    live().put(cell, after, turn_after);
+    // What is painted is seen: a hidden layer painted on shows again.
+    layer_list[size_t(current)]->visible = true;
     open_edit.cells.push_back(
         Map_Edit::Cell{cell, before, after, uint8_t(turn_before), uint8_t(turn_after)});
     ++changes;
@@ -65,14 +195,14 @@ void Map_Editor::paint_terrain(int corner_x, int corner_y, int terrain) {
     set_corner(corner_y * corners.columns() + corner_x, terrain);
     for (int y = corner_y - 1; y <= corner_y; ++y)
         for (int x = corner_x - 1; x <= corner_x; ++x) {
-            if (cells.is_outside(x, y)) continue;
+            if (live().is_outside(x, y)) continue;
             // Corners never painted take what the cell's tile has there, or this terrain.
-            const Terrain_Set::Corners has = terrains.corners(cells.at(x, y));
+            const Terrain_Set::Corners has = terrains.corners(live().at(x, y));
             const int around[4][2] = {{x, y}, {x + 1, y}, {x + 1, y + 1}, {x, y + 1}};
             for (int k = 0; k < 4; ++k)
                 if (corners.at(around[k][0], around[k][1]) == Tile_Map::empty)
                     set_corner(around[k][1] * corners.columns() + around[k][0], has[k] != 0 ? has[k] : terrain);
-            set_cell(y * cells.columns() + x, terrains.tile_for(wanted(x, y), x, y), turn::none);
+            set_cell(y * live().columns() + x, terrains.tile_for(wanted(x, y), x, y), turn::none);
         }
 }
 
@@ -82,31 +212,34 @@ bool Map_Editor::set_terrain(const Terrain_Set& set) {
     ++changes;
     count_edit();  // the set is kept in the map file
     begin_stroke();
-    for (int y = 0; y < cells.rows(); ++y)
-        for (int x = 0; x < cells.columns(); ++x) {
+    for (int y = 0; y < live().rows(); ++y)
+        for (int x = 0; x < live().columns(); ++x) {
             const Terrain_Set::Corners w = wanted(x, y);
-            if (cells.at(x, y) == Tile_Map::empty && terrains.complete(w))
-                set_cell(y * cells.columns() + x, terrains.tile_for(w, x, y), turn::none);
+            if (live().at(x, y) == Tile_Map::empty && terrains.complete(w))
+                set_cell(y * live().columns() + x, terrains.tile_for(w, x, y), turn::none);
         }
     return end_stroke();
 }
 
+// The layers from the bottom up: a tile of the set on a higher layer has the
+// last word on its corners.
 void Map_Editor::place_terrain(const Terrain_Set& set) {
     terrains = set;
-    for (int y = 0; y < cells.rows(); ++y)
-        for (int x = 0; x < cells.columns(); ++x) {
-            const Terrain_Set::Corners c = terrains.corners(cells.at(x, y));
-            const int around[4][2] = {{x, y}, {x + 1, y}, {x + 1, y + 1}, {x, y + 1}};
-            for (int k = 0; k < 4; ++k)
-                if (c[size_t(k)] != 0) corners.set(around[k][0], around[k][1], int(c[size_t(k)]));
-        }
+    for (const auto& layer : layer_list)
+        for (int y = 0; y < layer->cells.rows(); ++y)
+            for (int x = 0; x < layer->cells.columns(); ++x) {
+                const Terrain_Set::Corners c = terrains.corners(layer->cells.at(x, y));
+                const int around[4][2] = {{x, y}, {x + 1, y}, {x + 1, y + 1}, {x, y + 1}};
+                for (int k = 0; k < 4; ++k)
+                    if (c[size_t(k)] != 0) corners.set(around[k][0], around[k][1], int(c[size_t(k)]));
+            }
     ++changes;
 }
 
 void Map_Editor::paint(int x, int y, int tile, int turn) {
-    if (cells.is_outside(x, y)) return;
+    if (live().is_outside(x, y)) return;
     if (!stroking) begin_stroke();
-    set_cell(y * cells.columns() + x, tile, turn);
+    set_cell(y * live().columns() + x, tile, turn);
 }
 
 void Map_Editor::paint_line(int x1, int y1, int x2, int y2, int tile, int turn) {
@@ -117,6 +250,7 @@ bool Map_Editor::end_stroke() {
     if (!stroking) return false;
     stroking = false;
     const bool changed = !open_edit.cells.empty();
+    open_edit.layer = current;
     steps.record(std::move(open_edit));
     open_edit = Map_Edit{};
     return changed;
@@ -124,6 +258,7 @@ bool Map_Editor::end_stroke() {
 
 bool Map_Editor::fill(int x, int y, int tile, int turn) {
     end_stroke();
+    const Tile_Map& cells = live();
     if (cells.is_outside(x, y)) return false;
     const int target = cells.at(x, y);
     const int target_turn = cells.turn_at(x, y);
@@ -151,7 +286,7 @@ bool Map_Editor::fill(int x, int y, int tile, int turn) {
 
 bool Map_Editor::undo() {
     end_stroke();
-    if (!steps.undo(cells, corners)) return false;
+    if (!steps.undo(layer_list, corners, current)) return false;
     ++changes;
     count_edit();
     return true;
@@ -159,37 +294,38 @@ bool Map_Editor::undo() {
 
 bool Map_Editor::redo() {
     end_stroke();
-    if (!steps.redo(cells, corners)) return false;
+    if (!steps.redo(layer_list, corners, current)) return false;
     ++changes;
     count_edit();
     return true;
 }
 
-int Map_Editor::take_cells(const Tile_Map& other) {
+int Map_Editor::take_layers(const Map_Editor& other) {
     int left_out = 0;
-    for (int y = 0; y < other.rows(); ++y)
-        for (int x = 0; x < other.columns(); ++x) {
-            const int tile = other.at(x, y);
-            if (tile == Tile_Map::empty) continue;
-            if (cells.is_outside(x, y))
-                ++left_out;
-            else
-                cells.set(x, y, tile, other.turn_at(x, y));
-            count_edit();
-        }
-    ++changes;
+    std::vector<Map_Layer> layers;
+    for (const auto& l : other.layer_list) {
+        layers.push_back(*l);
+        const Tile_Map& cells = l->cells;
+        for (int y = 0; y < cells.rows(); ++y)
+            for (int x = 0; x < cells.columns(); ++x)
+                if (cells.at(x, y) != Tile_Map::empty && live().is_outside(x, y)) ++left_out;
+    }
+    place_layers(std::move(layers), other.file_keys, other.next_id);
+    current = std::min(other.current, layer_count() - 1);
     return left_out;
 }
 
 void Map_Editor::place(int x, int y, int tile, int turn) {
-    if (cells.at(x, y) != (tile < 0 ? Tile_Map::empty : tile) || cells.turn_at(x, y) != turn) count_edit();
-    cells.set(x, y, tile, turn);
+    if (live().at(x, y) != (tile < 0 ? Tile_Map::empty : tile) || live().turn_at(x, y) != turn) count_edit();
+    live().set(x, y, tile, turn);
     ++changes;
 }
 
 void Map_Editor::tile_inserted(int index) {
     end_stroke();
-    if (cells.tile_inserted(index)) count_edit();
+    bool changed = false;
+    for (const auto& l : layer_list) changed = l->cells.tile_inserted(index) || changed;
+    if (changed) count_edit();
     steps.tile_inserted(index);
     terrains.tile_inserted(index);
     ++changes;
@@ -197,7 +333,9 @@ void Map_Editor::tile_inserted(int index) {
 
 void Map_Editor::tile_removed(int index) {
     end_stroke();
-    if (cells.tile_removed(index)) count_edit();
+    bool changed = false;
+    for (const auto& l : layer_list) changed = l->cells.tile_removed(index) || changed;
+    if (changed) count_edit();
     steps.tile_removed(index);
     terrains.tile_removed(index);
     ++changes;
@@ -205,7 +343,9 @@ void Map_Editor::tile_removed(int index) {
 
 void Map_Editor::tiles_swapped(int a, int b) {
     end_stroke();
-    if (cells.tiles_swapped(a, b)) count_edit();
+    bool changed = false;
+    for (const auto& l : layer_list) changed = l->cells.tiles_swapped(a, b) || changed;
+    if (changed) count_edit();
     steps.tiles_swapped(a, b);
     terrains.tiles_swapped(a, b);
     ++changes;
@@ -214,8 +354,16 @@ void Map_Editor::tiles_swapped(int a, int b) {
 std::unique_ptr<Tile_Uses> Map_Editor::tile_leaving(int index) {
     end_stroke();
     auto uses = std::make_unique<Map_Uses>();
-    for (int c = 0; c < cells.cell_count(); ++c)
-        if (cells.at(c) == index) uses->cells.push_back(c), uses->turns.push_back(uint8_t(cells.turn_at(c)));
+    auto collect = [&](const std::shared_ptr<Map_Layer>& layer) {
+        Map_Uses::In_Layer in{layer, {}, {}};
+        const Tile_Map& cells = layer->cells;
+        for (int c = 0; c < cells.cell_count(); ++c)
+            if (cells.at(c) == index) in.cells.push_back(c), in.turns.push_back(uint8_t(cells.turn_at(c)));
+        if (!in.cells.empty()) uses->layers.push_back(std::move(in));
+    };
+    for (const auto& layer : layer_list) collect(layer);
+    // A removed layer a step would bring back is held by that step only.
+    steps.for_each_stored_layer(collect);
     uses->mark = next_mark--;
     uses->terrain = terrains.corners(index);
     steps.leaving(index, uses->mark);
@@ -226,11 +374,14 @@ std::unique_ptr<Tile_Uses> Map_Editor::tile_leaving(int index) {
 void Map_Editor::tile_returned(int index, const Tile_Uses& uses) {
     const auto* map_uses = dynamic_cast<const Map_Uses*>(&uses);
     if (!map_uses) return;
-    for (size_t i = 0; i < map_uses->cells.size(); ++i)
-        if (const int c = map_uses->cells[i]; c < cells.cell_count() && cells.at(c) == Tile_Map::empty) {
-            cells.put(c, index, map_uses->turns[i]);
-            count_edit();
-        }
+    for (const Map_Uses::In_Layer& in : map_uses->layers) {
+        Tile_Map& cells = in.layer->cells;
+        for (size_t i = 0; i < in.cells.size(); ++i)
+            if (const int c = in.cells[i]; c < cells.cell_count() && cells.at(c) == Tile_Map::empty) {
+                cells.put(c, index, in.turns[i]);
+                count_edit();
+            }
+    }
     steps.returned(map_uses->mark, index);
     terrains.set_corners(index, map_uses->terrain);
     ++changes;

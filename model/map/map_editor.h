@@ -4,6 +4,7 @@
 #include <functional>
 #include <memory>
 #include <string>
+#include <vector>
 
 #include "model/core/safe_file.h"
 #include "model/tile/tile_store.h"
@@ -11,18 +12,49 @@
 #include "model/map/terrain_set.h"
 #include "model/map/tile_map.h"
 
-// A tileset's map: its cells and their history. The map is made for
-// (480 / tile width) x (480 / tile height) cells; the tileset makes a new one
-// whenever its tile size changes. Edits come in steps: a stroke of the
-// pointer or a fill is one step to undo.
+// A tileset's map: its layers of cells and their history. The map is made
+// for (480 / tile width) x (480 / tile height) cells; the tileset makes a new
+// one whenever its tile size changes. Edits come in steps: a stroke of the
+// pointer or a fill is one step to undo, and so is each change of the list
+// of layers. The tools paint in the current layer.
 class Map_Editor : public Tile_List_Watcher {
 public:
     static constexpr int extent = 480;
+    static constexpr int most_layers = 16;
+    static constexpr const char* first_layer_name = "Tiles";
 
-    // Sizes of 0 count as 1.
+    // Sizes of 0 count as 1. A new map has one layer.
     Map_Editor(uint32_t tile_width, uint32_t tile_height);
 
-    const Tile_Map& map() const { return cells; }
+    // The current layer's cells.
+    const Tile_Map& map() const { return live(); }
+    int layer_count() const { return int(layer_list.size()); }
+    const Map_Layer& layer(int index) const { return *layer_list[size_t(index)]; }
+    int current_layer() const { return current; }
+    // Whether no layer holds a tile.
+    bool is_blank() const;
+
+    // Each a step to undo but choosing and showing. A new layer goes above
+    // the current one and becomes current; the only layer is never removed.
+    void choose_layer(int index);
+    bool add_layer();
+    bool remove_layer();
+    bool rename_layer(int index, const std::string& name);
+    bool move_layer(int index, int to);
+    // Shown or hidden: kept in the map file, but no step to undo (a look
+    // under a layer is no edit of the map).
+    void show_layer(int index, bool visible);
+
+    // The layers as a map file gives them, placed without history (none
+    // given: one blank layer); the file's layers this map knows about (to
+    // tell a layer removed here from one another program added) and the
+    // next free layer id.
+    void place_layers(std::vector<Map_Layer> layers, std::vector<int> file_keys, int next_id);
+    // The map file now holds the layers as they stand, each under the id
+    // given (one for each layer, in order).
+    void layers_filed(const std::vector<int>& ids);
+    const std::vector<int>& known_file_keys() const { return file_keys; }
+    int next_layer_id() const { return next_id; }
     // The terrain set painted with, and the terrain at each corner of the
     // map's cells ((columns + 1) x (rows + 1) of them; empty where none was
     // painted).
@@ -63,9 +95,10 @@ public:
     // cells holding tiles of the set take those tiles' terrains.
     void place_terrain(const Terrain_Set& set);
 
-    // The cells of another map, where they fit, placed without history; the
-    // number of placed cells that did not fit.
-    int take_cells(const Tile_Map& other);
+    // The layers of another map (a map of another tile size), their cells
+    // where they fit, placed without history; the number of placed cells
+    // that did not fit.
+    int take_layers(const Map_Editor& other);
     // Cells placed in one go, as reading a map file does: no history.
     void place(int x, int y, int tile, int turn = turn::none);
     void clear_history() { steps.clear(); }
@@ -93,12 +126,18 @@ public:
     std::function<void()> saved_state_changed;
 
 private:
+    Tile_Map& live() { return layer_list[size_t(current)]->cells; }
+    const Tile_Map& live() const { return layer_list[size_t(current)]->cells; }
+    void record_layers(Map_Edit edit);
     void set_cell(int cell, int tile, int turn);
     void count_edit();
 
     void set_corner(int corner, int terrain);
 
-    Tile_Map cells;
+    Map_Layers layer_list;
+    int current = 0;
+    int next_id = 2;
+    std::vector<int> file_keys;
     Tile_Map corners;
     Terrain_Set terrains;
     Map_History steps;

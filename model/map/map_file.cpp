@@ -5,32 +5,18 @@
 #include <algorithm>
 #include <cstdio>
 #include <cstdlib>
-#include <vector>
 #include <filesystem>
 #include <string>
+#include <vector>
 
 #include "model/core/safe_file.h"
+#include "model/map/gid.h"
 #include "model/map/layer_data.h"
 #include "model/map/map_editor.h"
 #include "model/map/map_text.h"
 #include "model/map/terrain_file.h"
 
 namespace {
-// Map files keep a cell's flips in its top bits: across, upside down,
-// diagonal, and a hexagonal turn this editor does not show.
-constexpr uint32_t flag_bits = 0xF0000000u;
-constexpr uint32_t flip_h_bit = 0x80000000u, flip_v_bit = 0x40000000u, diagonal_bit = 0x20000000u,
-                   hexagonal_bit = 0x10000000u;
-
-int turn_of(uint32_t value) {
-    return (value & flip_h_bit ? turn::flip_h : 0) | (value & flip_v_bit ? turn::flip_v : 0) |
-           (value & diagonal_bit ? turn::diagonal : 0);
-}
-uint32_t flags_of(int t) {
-    return (t & turn::flip_h ? flip_h_bit : 0) | (t & turn::flip_v ? flip_v_bit : 0) |
-           (t & turn::diagonal ? diagonal_bit : 0);
-}
-
 // The whole file name minus its extension (after the last dot), so that
 // "level.1.wst" and "level.2.wst" keep maps of their own.
 std::string beside(const std::string& tileset_path, const char* extension) {
@@ -46,15 +32,6 @@ std::string file_name(const std::string& path) {
     return separator == std::string::npos ? path : path.substr(separator + 1);
 }
 
-void add_problem(Map_File::Reading& r, const std::string& line) {
-    if (!r.problems.empty()) r.problems += "\r";
-    r.problems += line;
-}
-
-int attribute(const tinyxml2::XMLElement* e, const char* name, int fallback) {
-    int value = fallback;
-    return e && e->QueryIntAttribute(name, &value) == tinyxml2::XML_SUCCESS ? value : fallback;
-}
 }  // namespace
 
 std::string Map_File::map_path(const std::string& tileset_path) { return beside(tileset_path, ".tmx"); }
@@ -62,9 +39,6 @@ std::string Map_File::sheet_path(const std::string& tileset_path) { return besid
 
 namespace {
 using namespace tinyxml2;
-
-// The map's first tile layer: the one this editor reads and writes.
-XMLElement* tile_layer(XMLElement* root) { return root->FirstChildElement("layer"); }
 
 // A new map with the tileset drawn from the sheet beside it.
 XMLElement* new_map(XMLDocument& doc, const std::string& sheet, uint32_t tile_width, uint32_t tile_height) {
@@ -96,57 +70,27 @@ XMLElement* new_map(XMLDocument& doc, const std::string& sheet, uint32_t tile_wi
     return root;
 }
 
-// A tile layer added after the last layer or tileset, with the map's next id.
-XMLElement* add_tile_layer(XMLElement* root) {
-    int id = 1;
-    root->QueryIntAttribute("nextlayerid", &id);
-    XMLElement* layer = root->GetDocument()->NewElement("layer");
-    XMLElement* after = nullptr;
-    for (XMLElement* e = root->FirstChildElement(); e; e = e->NextSiblingElement()) after = e;
-    if (after)
-        root->InsertAfterChild(after, layer);
-    else
-        root->InsertEndChild(layer);
-    layer->SetAttribute("id", id);
-    layer->SetAttribute("name", "Tiles");
-    root->SetAttribute("nextlayerid", id + 1);
-    return layer;
-}
-
-// The area the layer must cover: its own, grown to hold every placed cell.
-void layer_size(const XMLElement* layer, const Tile_Map& map, int& columns, int& rows) {
-    columns = 0;
-    rows = 0;
-    if (layer) {
-        layer->QueryIntAttribute("width", &columns);
-        layer->QueryIntAttribute("height", &rows);
-    }
-    if (columns <= 0 || rows <= 0 || columns > map.columns() * 64 || rows > map.rows() * 64) {
-        columns = map.columns();
-        rows = map.rows();
-        return;
-    }
-    for (int y = 0; y < map.rows(); ++y)
-        for (int x = 0; x < map.columns(); ++x)
-            if (map.at(x, y) != Tile_Map::empty && (x >= columns || y >= rows)) {
-                columns = std::max(columns, map.columns());
-                rows = std::max(rows, map.rows());
-                return;
-            }
-}
-}  // namespace
-
-namespace {
-// The layer's cells as global tile ids, row by row.
+// The layer's cells as global tile ids, row by row, over the area given.
 std::vector<uint32_t> gids_of(const Tile_Map& map, int columns, int rows, int first_gid) {
     std::vector<uint32_t> gids;
     gids.reserve(size_t(columns) * size_t(rows));
     for (int y = 0; y < rows; ++y)
         for (int x = 0; x < columns; ++x) {
             const int tile = map.at(x, y);
-            gids.push_back(tile == Tile_Map::empty ? 0 : uint32_t(tile + first_gid) | flags_of(map.turn_at(x, y)));
+            gids.push_back(tile == Tile_Map::empty ? 0 : uint32_t(tile + first_gid) | gid::flags_of(map.turn_at(x, y)));
         }
     return gids;
+}
+
+// The ids every kind of layer in the map holds, groups and their layers included.
+void used_ids(const XMLElement* parent, std::vector<int>& ids) {
+    for (const XMLElement* e = parent->FirstChildElement(); e; e = e->NextSiblingElement()) {
+        const std::string name = e->Name();
+        if (name != "layer" && name != "objectgroup" && name != "imagelayer" && name != "group") continue;
+        int id = 0;
+        if (e->QueryIntAttribute("id", &id) == XML_SUCCESS) ids.push_back(id);
+        if (name == "group") used_ids(e, ids);
+    }
 }
 
 struct Edit {
@@ -190,11 +134,116 @@ void edit_terrain(const std::string& source, const map_text::Element& tileset, c
     if (!ours.empty()) edits.push_back({sets.content_end, 0, " " + ours + "\n  "});
 }
 
-// The source with only the map's tag, its first tile layer's cells and the
-// terrain set (when given and changed) replaced; empty when the source is no
-// map this can edit.
-std::string edited(const std::string& source, const Tile_Map& map, uint32_t tile_width, uint32_t tile_height,
-                   const std::string& sheet, const Terrain_Set* terrain) {
+// What a layer becomes in the file.
+struct Written_Layer {
+    int id = 0;
+    int columns = 0;
+    int rows = 0;
+    std::vector<uint32_t> gids;
+};
+
+// The area the layer must cover: its own as the tag gives it, grown to hold
+// every placed cell.
+void layer_size(const std::string& tag, const Tile_Map& map, int& columns, int& rows) {
+    columns = std::atoi(map_text::attribute(tag, "width").c_str());
+    rows = std::atoi(map_text::attribute(tag, "height").c_str());
+    if (columns <= 0 || rows <= 0 || columns > map.columns() * 64 || rows > map.rows() * 64) {
+        columns = map.columns();
+        rows = map.rows();
+        return;
+    }
+    for (int y = 0; y < map.rows(); ++y)
+        for (int x = 0; x < map.columns(); ++x)
+            if (map.at(x, y) != Tile_Map::empty && (x >= columns || y >= rows)) {
+                columns = std::max(columns, map.columns());
+                rows = std::max(rows, map.rows());
+                return;
+            }
+}
+
+std::string csv_data(const Written_Layer& w) {
+    return "<data encoding=\"csv\">" + layer_data::encode(w.gids, w.columns, layer_data::Encoding::csv) + "</data>";
+}
+
+// A new layer's element.
+std::string new_layer_element(const Map_Layer& layer, const Written_Layer& w) {
+    return "<layer id=\"" + std::to_string(w.id) + "\" name=\"" + map_text::escaped(layer.name) + "\" width=\"" +
+           std::to_string(w.columns) + "\" height=\"" + std::to_string(w.rows) + "\"" +
+           (layer.visible ? "" : " visible=\"0\"") + ">\n  " + csv_data(w) + "\n </layer>";
+}
+
+// The element the layer was read from with its id, name, visibility, size
+// and cells replaced; its other attributes, properties and layout stay, and
+// its cells keep the encoding they were read in.
+std::string edited_layer_element(const std::string& element, const Map_Layer& layer, Written_Layer& w,
+                                 int first_gid) {
+    const map_text::Element e = map_text::child(element, 0, element.size(), "layer");
+    const std::string tag = element.substr(e.tag_begin, e.tag_end - e.tag_begin);
+    layer_size(tag, layer.cells, w.columns, w.rows);
+    w.gids = gids_of(layer.cells, w.columns, w.rows, first_gid);
+    std::string new_tag = tag;
+    auto set = [&](const char* name, const std::string& value) {
+        if (map_text::attribute(new_tag, name) != value) new_tag = map_text::with_attribute(new_tag, name, value);
+    };
+    set("id", std::to_string(w.id));
+    set("name", map_text::escaped(layer.name));
+    set("width", std::to_string(w.columns));
+    set("height", std::to_string(w.rows));
+    if (!layer.visible)
+        set("visible", "0");
+    else if (!map_text::attribute(new_tag, "visible").empty())
+        new_tag = map_text::without_attribute(new_tag, "visible");
+    if (e.empty) return new_tag.substr(0, new_tag.rfind("/>")) + ">" + csv_data(w) + "</layer>";
+    std::string out = element;
+    const map_text::Element cells = map_text::child(element, e.tag_end, e.content_end, "data");
+    if (!cells.found) {
+        out.insert(e.content_end, csv_data(w));
+    } else {
+        const std::string data_tag = element.substr(cells.tag_begin, cells.tag_end - cells.tag_begin);
+        layer_data::Encoding kept = layer_data::Encoding::csv;
+        if (!cells.empty && layer_data::encoding_of(map_text::attribute(data_tag, "encoding"),
+                                                    map_text::attribute(data_tag, "compression"), kept))
+            out.replace(cells.tag_end, cells.content_end - cells.tag_end, layer_data::encode(w.gids, w.columns, kept));
+        else
+            out.replace(cells.tag_begin, cells.end - cells.tag_begin, csv_data(w));
+    }
+    return out.replace(e.tag_begin, tag.size(), new_tag);
+}
+
+// Whether every layer's cells read back from the text as written.
+bool reads_back(const std::string& text, const std::vector<Written_Layer>& written) {
+    XMLDocument check;
+    if (check.Parse(text.c_str(), text.size()) != XML_SUCCESS || !check.RootElement()) return false;
+    for (const Written_Layer& w : written) {
+        const XMLElement* layer = check.RootElement()->FirstChildElement("layer");
+        while (layer && layer->IntAttribute("id", -1) != w.id) layer = layer->NextSiblingElement("layer");
+        const XMLElement* data = layer ? layer->FirstChildElement("data") : nullptr;
+        const char* cells = data ? data->GetText() : nullptr;
+        layer_data::Encoding encoding;
+        if (!cells || !layer_data::encoding_of(data->Attribute("encoding") ? data->Attribute("encoding") : "",
+                                               data->Attribute("compression") ? data->Attribute("compression") : "",
+                                               encoding))
+            return false;
+        const layer_data::Decoded back = layer_data::decode(cells, encoding, w.gids.size());
+        if (!back.failure.empty() || back.bad > 0 || back.cells != w.gids) return false;
+    }
+    return true;
+}
+
+// Where a removed element's text starts: the blank line it stood on goes too.
+size_t line_start(const std::string& text, size_t at) {
+    size_t start = at;
+    while (start > 0 && (text[start - 1] == ' ' || text[start - 1] == '\t')) --start;
+    return start > 0 && text[start - 1] == '\n' ? start - 1 : at;
+}
+
+// The source with only the map's tag, its tile layers and the terrain set
+// (when changed) edited: the layers this map read stand where they stood
+// (in the map's order), layers removed here go, new ones follow the last,
+// and layers it did not read stay untouched. Empty when the source is no map
+// this can edit. The ids the layers got are put in ids.
+std::string edited(const std::string& source, const Map_Editor& map, uint32_t tile_width, uint32_t tile_height,
+                   const std::string& sheet, std::vector<int>& ids) {
     XMLDocument doc;
     if (doc.Parse(source.c_str(), source.size()) != XML_SUCCESS || !doc.RootElement() ||
         std::string(doc.RootElement()->Name()) != "map")
@@ -205,52 +254,96 @@ std::string edited(const std::string& source, const Tile_Map& map, uint32_t tile
     int first_gid = 1;
     if (const XMLElement* tileset = root_element->FirstChildElement("tileset"))
         tileset->QueryIntAttribute("firstgid", &first_gid);
-    int columns = 0;
-    int rows = 0;
-    layer_size(tile_layer(root_element), map, columns, rows);
-    const std::vector<uint32_t> gids = gids_of(map, columns, rows, first_gid);
-    const std::string csv = layer_data::encode(gids, columns, layer_data::Encoding::csv);
-    const std::string data = "<data encoding=\"csv\">" + csv + "</data>";
+
+    std::vector<map_text::Element> elements;
+    std::vector<std::string> file_ids;
+    for (size_t from = root.tag_end;;) {
+        const map_text::Element e = map_text::child(source, from, root.content_end, "layer");
+        if (!e.found) break;
+        elements.push_back(e);
+        file_ids.push_back(map_text::attribute(source.substr(e.tag_begin, e.tag_end - e.tag_begin), "id"));
+        from = e.end;
+    }
+    const std::vector<int> keys = gid::layer_keys(file_ids);
+    // The element each layer was read from, if the file still has it.
+    const int count = map.layer_count();
+    std::vector<int> source_of(size_t(count), -1);
+    std::vector<bool> claimed(elements.size(), false);
+    for (int i = 0; i < count; ++i)
+        for (size_t j = 0; j < elements.size(); ++j)
+            if (map.layer(i).file_key != 0 && keys[j] == map.layer(i).file_key && !claimed[j]) {
+                source_of[size_t(i)] = int(j);
+                claimed[j] = true;
+                break;
+            }
+    // Ids: a layer read keeps the file's; any other takes its own unless the
+    // file has it, then the next free one.
+    std::vector<int> taken;
+    used_ids(root_element, taken);
+    int next = std::max(root_element->IntAttribute("nextlayerid", 1), map.next_layer_id());
+    for (int t : taken) next = std::max(next, t + 1);
+    ids.assign(size_t(count), 0);
+    for (int i = 0; i < count; ++i)
+        if (source_of[size_t(i)] >= 0 && keys[size_t(source_of[size_t(i)])] > 0) ids[size_t(i)] = keys[size_t(source_of[size_t(i)])];
+    for (int i = 0; i < count; ++i) {
+        if (ids[size_t(i)] != 0) continue;
+        const int own = map.layer(i).id;
+        const bool free = own > 0 && std::find(taken.begin(), taken.end(), own) == taken.end() &&
+                          std::find(ids.begin(), ids.end(), own) == ids.end();
+        ids[size_t(i)] = free ? own : next++;
+        next = std::max(next, ids[size_t(i)] + 1);
+    }
 
     std::vector<Edit> edits;
-    std::string root_tag = source.substr(root.tag_begin, root.tag_end - root.tag_begin);
-    const map_text::Element layer = map_text::child(source, root.tag_end, root.content_end, "layer");
-    auto sized = [&](std::string tag) {
-        if (map_text::attribute(tag, "width") != std::to_string(columns)) tag = map_text::with_attribute(tag, "width", std::to_string(columns));
-        if (map_text::attribute(tag, "height") != std::to_string(rows)) tag = map_text::with_attribute(tag, "height", std::to_string(rows));
-        return tag;
-    };
-    if (!layer.found) {
-        int id = 1;
-        root_element->QueryIntAttribute("nextlayerid", &id);
-        root_tag = map_text::with_attribute(root_tag, "nextlayerid", std::to_string(id + 1));
-        edits.push_back({root.content_end, 0,
-                         " <layer id=\"" + std::to_string(id) + "\" name=\"Tiles\" width=\"" + std::to_string(columns) +
-                             "\" height=\"" + std::to_string(rows) + "\">\n  " + data + "\n </layer>\n"});
-    } else {
-        const std::string tag = source.substr(layer.tag_begin, layer.tag_end - layer.tag_begin);
-        if (layer.empty) {
-            const std::string open = sized(tag.substr(0, tag.size() - 2) + ">");
-            edits.push_back({layer.tag_begin, layer.end - layer.tag_begin, open + data + "</layer>"});
+    std::vector<Written_Layer> written;
+    written.resize(size_t(count));
+    std::vector<std::string> texts;
+    for (int i = 0; i < count; ++i) {
+        Written_Layer& w = written[size_t(i)];
+        w.id = ids[size_t(i)];
+        const int from = source_of[size_t(i)];
+        if (from >= 0) {
+            const map_text::Element& e = elements[size_t(from)];
+            texts.push_back(edited_layer_element(source.substr(e.tag_begin, e.end - e.tag_begin), map.layer(i), w, first_gid));
         } else {
-            const std::string new_tag = sized(tag);
-            if (new_tag != tag) edits.push_back({layer.tag_begin, tag.size(), new_tag});
-            const map_text::Element cells = map_text::child(source, layer.tag_end, layer.content_end, "data");
-            if (!cells.found) {
-                edits.push_back({layer.content_end, 0, data});
-            } else {
-                // Written back in the encoding it was read in.
-                const std::string data_tag = source.substr(cells.tag_begin, cells.tag_end - cells.tag_begin);
-                layer_data::Encoding kept = layer_data::Encoding::csv;
-                if (!cells.empty && layer_data::encoding_of(map_text::attribute(data_tag, "encoding"),
-                                                            map_text::attribute(data_tag, "compression"), kept))
-                    edits.push_back({cells.tag_end, cells.content_end - cells.tag_end,
-                                     layer_data::encode(gids, columns, kept)});
-                else
-                    edits.push_back({cells.tag_begin, cells.end - cells.tag_begin, data});
-            }
+            w.columns = map.layer(i).cells.columns();
+            w.rows = map.layer(i).cells.rows();
+            w.gids = gids_of(map.layer(i).cells, w.columns, w.rows, first_gid);
+            texts.push_back(new_layer_element(map.layer(i), w));
         }
     }
+    // The places of the layers read, filled in the map's order.
+    std::vector<size_t> slots;
+    const std::vector<int>& known = map.known_file_keys();
+    for (size_t j = 0; j < elements.size(); ++j) {
+        if (claimed[j])
+            slots.push_back(j);
+        else if (std::find(known.begin(), known.end(), keys[j]) != known.end()) {
+            const size_t start = line_start(source, elements[j].tag_begin);
+            edits.push_back({start, elements[j].end - start, ""});
+        }
+    }
+    std::string after_slots;
+    for (size_t i = 0; i < texts.size(); ++i) {
+        if (i < slots.size()) {
+            const map_text::Element& e = elements[slots[i]];
+            edits.push_back({e.tag_begin, e.end - e.tag_begin, texts[i]});
+        } else {
+            after_slots += "\n " + texts[i];
+        }
+    }
+    if (!after_slots.empty()) {
+        if (!slots.empty())
+            edits.push_back({elements[slots.back()].end, 0, after_slots});
+        else if (!elements.empty())
+            edits.push_back({elements.back().end, 0, after_slots});
+        else
+            edits.push_back({root.content_end, 0, after_slots.substr(1) + "\n"});
+    }
+
+    std::string root_tag = source.substr(root.tag_begin, root.tag_end - root.tag_begin);
+    if (root_element->IntAttribute("nextlayerid", 0) < next)
+        root_tag = map_text::with_attribute(root_tag, "nextlayerid", std::to_string(next));
     // The cells are this tileset's tiles, at its size; so is the sheet's
     // tileset, when the map draws from the sheet written beside it.
     const std::string w = std::to_string(tile_width);
@@ -273,78 +366,86 @@ std::string edited(const std::string& source, const Tile_Map& map, uint32_t tile
             edits.push_back({image.tag_begin, image_tag.size(), i});
         }
     }
-    if (terrain && tileset.found) {
+    if (tileset.found) {
         Terrain_Set in_file;
         std::string ignored;
-        const bool had =
-            terrain_file::read(root_element->FirstChildElement("tileset"), 1 << 30, in_file, ignored);
-        if (had ? !(in_file == *terrain) : !terrain->is_empty()) edit_terrain(source, tileset, *terrain, edits);
+        const bool had = terrain_file::read(root_element->FirstChildElement("tileset"), 1 << 30, in_file, ignored);
+        if (had ? !(in_file == map.terrain()) : !map.terrain().is_empty())
+            edit_terrain(source, tileset, map.terrain(), edits);
     }
     // A loader of one game engine refuses maps without it.
     if (map_text::attribute(root_tag, "tiledversion").empty())
         root_tag = map_text::with_attribute(root_tag, "tiledversion", Map_File::tiled_version);
+    int columns = 0, rows = 0;
+    for (const Written_Layer& l : written) columns = std::max(columns, l.columns), rows = std::max(rows, l.rows);
     const int map_columns = std::atoi(map_text::attribute(root_tag, "width").c_str());
     const int map_rows = std::atoi(map_text::attribute(root_tag, "height").c_str());
     if (columns > map_columns) root_tag = map_text::with_attribute(root_tag, "width", std::to_string(columns));
     if (rows > map_rows) root_tag = map_text::with_attribute(root_tag, "height", std::to_string(rows));
-    // Its cells are all in the one layer of a fixed size now.
+    // Its cells are all in layers of a fixed size now.
     if (!map_text::attribute(root_tag, "infinite").empty() && map_text::attribute(root_tag, "infinite") != "0")
         root_tag = map_text::with_attribute(root_tag, "infinite", "0");
     edits.push_back({root.tag_begin, root.tag_end - root.tag_begin, root_tag});
 
     std::string out = source;
-    std::sort(edits.begin(), edits.end(), [](const Edit& a, const Edit& b) { return a.at > b.at; });
+    // From the end, so each edit's place still holds; of two at one place the
+    // longer (a removal) goes first, so a text added there stays.
+    std::sort(edits.begin(), edits.end(),
+              [](const Edit& a, const Edit& b) { return a.at != b.at ? a.at > b.at : a.length > b.length; });
     for (const Edit& e : edits) out.replace(e.at, e.length, e.text);
     // A file odd enough to defeat the edit (it is damaged, and the user agreed
     // to replace it) is written anew rather than written broken.
-    XMLDocument check;
-    if (check.Parse(out.c_str(), out.size()) != XML_SUCCESS || !check.RootElement()) return {};
-    const XMLElement* written_layer = tile_layer(check.RootElement());
-    const XMLElement* written_data = written_layer ? written_layer->FirstChildElement("data") : nullptr;
-    const char* written_cells = written_data ? written_data->GetText() : nullptr;
-    layer_data::Encoding written_encoding;
-    if (!written_cells || !layer_data::encoding_of(written_data->Attribute("encoding") ? written_data->Attribute("encoding") : "",
-                                                   written_data->Attribute("compression") ? written_data->Attribute("compression") : "",
-                                                   written_encoding))
-        return {};
-    const layer_data::Decoded back = layer_data::decode(written_cells, written_encoding, gids.size());
-    if (!back.failure.empty() || back.bad > 0 || back.cells != gids) return {};
-    return out;
+    return reads_back(out, written) ? out : std::string();
 }
 
-std::string new_file(const Tile_Map& map, uint32_t tile_width, uint32_t tile_height, const std::string& path,
-                     const Terrain_Set* terrain) {
+std::string new_file(const Map_Editor& map, uint32_t tile_width, uint32_t tile_height, const std::string& path,
+                     std::vector<int>& ids) {
     XMLDocument doc;
     XMLElement* root = new_map(doc, file_name(Map_File::sheet_path(path)), tile_width, tile_height);
-    if (terrain && !terrain->is_empty()) {
+    if (!map.terrain().is_empty()) {
         XMLDocument piece;
-        piece.Parse(("<wangsets>" + terrain_file::wangset_text(*terrain, "") + "</wangsets>").c_str());
+        piece.Parse(("<wangsets>" + terrain_file::wangset_text(map.terrain(), "") + "</wangsets>").c_str());
         if (piece.RootElement()) root->FirstChildElement("tileset")->InsertEndChild(piece.RootElement()->DeepClone(&doc));
     }
-    XMLElement* layer = add_tile_layer(root);
-    layer->SetAttribute("width", map.columns());
-    layer->SetAttribute("height", map.rows());
-    root->SetAttribute("width", map.columns());
-    root->SetAttribute("height", map.rows());
-    XMLElement* data = layer->InsertNewChildElement("data");
-    data->SetAttribute("encoding", "csv");
-    data->SetText(
-        layer_data::encode(gids_of(map, map.columns(), map.rows(), 1), map.columns(), layer_data::Encoding::csv).c_str());
+    ids.clear();
+    int next = 1;
+    for (int i = 0; i < map.layer_count(); ++i) {
+        const Map_Layer& l = map.layer(i);
+        XMLElement* layer = root->InsertNewChildElement("layer");
+        layer->SetAttribute("id", l.id);
+        layer->SetAttribute("name", l.name.c_str());
+        layer->SetAttribute("width", l.cells.columns());
+        layer->SetAttribute("height", l.cells.rows());
+        if (!l.visible) layer->SetAttribute("visible", 0);
+        XMLElement* data = layer->InsertNewChildElement("data");
+        data->SetAttribute("encoding", "csv");
+        data->SetText(layer_data::encode(gids_of(l.cells, l.cells.columns(), l.cells.rows(), 1), l.cells.columns(),
+                                         layer_data::Encoding::csv)
+                          .c_str());
+        ids.push_back(l.id);
+        next = std::max(next, l.id + 1);
+    }
+    root->SetAttribute("width", map.map().columns());
+    root->SetAttribute("height", map.map().rows());
+    root->SetAttribute("nextlayerid", next);
     XMLPrinter printer;
     doc.Print(&printer);
     return std::string(printer.CStr(), size_t(printer.CStrSize() > 0 ? printer.CStrSize() - 1 : 0));
 }
 }  // namespace
 
-bool Map_File::write(const Tile_Map& map, uint32_t tile_width, uint32_t tile_height, const std::string& path,
-                     const std::string& source, const Terrain_Set* terrain) {
-    std::string text = source.empty() ? std::string()
-                                      : edited(source, map, tile_width, tile_height, file_name(sheet_path(path)), terrain);
-    if (text.empty()) text = new_file(map, tile_width, tile_height, path, terrain);
+bool Map_File::write(const Map_Editor& map, uint32_t tile_width, uint32_t tile_height, const std::string& path,
+                     const std::string& source, std::vector<int>* layer_ids) {
+    std::vector<int> ids;
+    std::string text =
+        source.empty() ? std::string() : edited(source, map, tile_width, tile_height, file_name(sheet_path(path)), ids);
+    if (text.empty()) text = new_file(map, tile_width, tile_height, path, ids);
     // A derived name: never written through a link there.
-    return safe_file::written(
+    const bool written = safe_file::written(
         path, [&](std::FILE* file) { return std::fwrite(text.data(), 1, text.size(), file) == text.size(); },
         safe_file::Links::refuse);
+    if (written && layer_ids) *layer_ids = ids;
+    return written;
 }
 
 bool Map_File::uses_sheet(const std::string& source, const std::string& sheet_name) {
@@ -366,124 +467,4 @@ std::string Map_File::text_of(const std::string& path) {
     while ((n = std::fread(buffer, 1, sizeof buffer, file)) > 0) text.append(buffer, n);
     std::fclose(file);
     return text;
-}
-
-namespace {
-// The cells of the first tile layer; the reading's whole flag is left to the caller.
-void read_layer(const tinyxml2::XMLElement* root, const tinyxml2::XMLElement* tileset, Map_Editor& into,
-                int tile_count, Map_File::Reading& r) {
-    using namespace tinyxml2;
-    const int first_gid = attribute(tileset, "firstgid", 1);
-    if (attribute(root, "infinite", 0) != 0) {
-        add_problem(r, "It is an infinite map, kept in chunks; this editor reads maps of a fixed size only, so no cell was read.");
-        return;
-    }
-    const XMLElement* layer = root->FirstChildElement("layer");
-    // A map without a tile layer is a blank map here; writing adds one.
-    if (!layer) return;
-    const int columns = attribute(layer, "width", attribute(root, "width", 0));
-    const int rows = attribute(layer, "height", attribute(root, "height", 0));
-    const XMLElement* data = layer->FirstChildElement("data");
-    const char* encoding_text = data ? data->Attribute("encoding") : nullptr;
-    const char* compression_text = data ? data->Attribute("compression") : nullptr;
-    layer_data::Encoding encoding;
-    if (!data || data->FirstChildElement() ||
-        !layer_data::encoding_of(encoding_text ? encoding_text : "", compression_text ? compression_text : "",
-                                 encoding)) {
-        add_problem(r, "Its tile layer is stored in a way this editor does not read (" +
-                           std::string(encoding_text ? encoding_text : "XML") +
-                           (compression_text ? std::string(", ") + compression_text : std::string()) +
-                           "), so no cell was read.");
-        return;
-    }
-    if (columns <= 0 || rows <= 0) {
-        add_problem(r, "Its tile layer has no valid size, so no cell was read.");
-        return;
-    }
-    const Tile_Map& map = into.map();
-    if (columns > map.columns() || rows > map.rows())
-        add_problem(r, "Its " + std::to_string(columns) + " x " + std::to_string(rows) +
-                           " cells do not fit this map of " + std::to_string(map.columns()) + " x " +
-                           std::to_string(map.rows()) + "; the rest was left out.");
-
-    const long long expected = (long long)columns * rows;
-    // A size that lies cannot make a small layer unpack into gigabytes.
-    const layer_data::Decoded cells = layer_data::decode(data->GetText() ? data->GetText() : "", encoding,
-                                                         size_t(std::min(expected, layer_data::most_cells)));
-    if (!cells.failure.empty()) {
-        add_problem(r, "Its tile layer could not be unpacked: " + cells.failure + ", so no cell was read.");
-        return;
-    }
-    const long long read_count = (long long)cells.cells.size();
-    const int bad = cells.bad;
-    int unknown = 0;
-    int flipped = 0;
-    for (long long index = 0; index < std::min(read_count, expected); ++index) {
-        const uint32_t value = cells.cells[size_t(index)];
-        if (value & hexagonal_bit) ++flipped;
-        const long long gid = value & ~flag_bits;
-        if (gid == 0) continue;
-        const long long tile = gid - first_gid;
-        const int x = int(index % columns);
-        const int y = int(index / columns);
-        if (tile < 0 || tile >= tile_count) {
-            ++unknown;
-            continue;
-        }
-        if (map.is_outside(x, y)) continue;
-        into.place(x, y, int(tile), turn_of(value));
-        ++r.cells;
-    }
-    if (bad > 0) add_problem(r, std::to_string(bad) + " cells held no valid number and were left empty.");
-    if (unknown > 0)
-        add_problem(r, std::to_string(unknown) + " cells named tiles this tileset does not have and were left empty.");
-    if (flipped > 0)
-        add_problem(r, std::to_string(flipped) + " cells were turned for a hexagonal map; they show without that turn.");
-    if (read_count < expected)
-        add_problem(r, "Its tile layer ends after " + std::to_string(read_count) + " of " + std::to_string(expected) +
-                           " cells.");
-    else if (read_count > expected)
-        add_problem(r, "Its tile layer holds more cells than its size; the extra ones were left out.");
-}
-}  // namespace
-
-
-Map_File::Reading Map_File::read(const std::string& path, Map_Editor& into, uint32_t tile_width,
-                                 uint32_t tile_height, int tile_count) {
-    using namespace tinyxml2;
-    Reading r;
-    std::error_code error;
-    if (!std::filesystem::is_regular_file(path, error)) return r;
-    r.found = true;
-    XMLDocument doc;
-    if (doc.LoadFile(path.c_str()) != XML_SUCCESS) {
-        add_problem(r, "It is not a readable XML file, so no cell was read.");
-        return r;
-    }
-    const XMLElement* root = doc.RootElement();
-    if (!root || std::string(root->Name()) != "map") {
-        add_problem(r, "It holds no map, so no cell was read.");
-        return r;
-    }
-    const char* orientation = root->Attribute("orientation");
-    if (orientation && std::string(orientation) != "orthogonal")
-        add_problem(r, std::string("Its orientation is ") + orientation + "; its cells were read as a plain grid.");
-    const int file_tile_w = attribute(root, "tilewidth", 0);
-    const int file_tile_h = attribute(root, "tileheight", 0);
-    if (file_tile_w != int(tile_width) || file_tile_h != int(tile_height))
-        add_problem(r, "It is made for tiles of " + std::to_string(file_tile_w) + " x " + std::to_string(file_tile_h) +
-                           " pixels, this tileset's are " + std::to_string(tile_width) + " x " +
-                           std::to_string(tile_height) + ".");
-
-    // What is not the first tile layer (objects, image and group layers,
-    // further tile layers and tilesets, properties) is kept as the file has
-    // it when the map is written back, so it is no loss to leave it aside.
-    const XMLElement* tileset = root->FirstChildElement("tileset");
-    read_layer(root, tileset, into, tile_count, r);
-    Terrain_Set terrain;
-    std::string terrain_problems;
-    if (terrain_file::read(tileset, tile_count, terrain, terrain_problems)) into.place_terrain(terrain);
-    if (!terrain_problems.empty()) add_problem(r, terrain_problems);
-    r.whole = r.problems.empty();
-    return r;
 }

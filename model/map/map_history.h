@@ -2,12 +2,17 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <memory>
+#include <string>
 #include <vector>
 
-#include "model/map/tile_map.h"
+#include "model/map/map_layer.h"
+
+using Map_Layers = std::vector<std::shared_ptr<Map_Layer>>;
 
 // One change of the map as the user made it (a stroke, a fill): every cell it
-// touched with what the cell held before and after.
+// touched with what the cell held before and after; or one change of the
+// list of layers.
 struct Map_Edit {
     struct Cell {
         int cell;
@@ -19,6 +24,16 @@ struct Map_Edit {
     std::vector<Cell> cells;
     // Terrains set at the map's corners (terrain numbers, not tiles).
     std::vector<Cell> corners;
+    // The layer the cells are in.
+    int layer = 0;
+
+    enum class Layers : uint8_t { none, added, removed, moved, renamed };
+    Layers change = Layers::none;
+    // Added or removed: the layer itself, kept whole for undo or redo.
+    std::shared_ptr<Map_Layer> kept;
+    int moved_to = 0;
+    std::string name_before;
+    std::string name_after;
 };
 
 // The map's own undo and redo, apart from the tileset's history: map edits
@@ -34,8 +49,10 @@ public:
 
     // A new edit drops whatever could be redone.
     void record(Map_Edit edit);
-    bool undo(Tile_Map& map, Tile_Map& corners);
-    bool redo(Tile_Map& map, Tile_Map& corners);
+    // The layer the step was in (or the layer it added, removed, moved or
+    // renamed) becomes the current one.
+    bool undo(Map_Layers& layers, Tile_Map& corners, int& current);
+    bool redo(Map_Layers& layers, Tile_Map& corners, int& current);
     bool can_undo() const { return done.size() > 0; }
     size_t cells_kept() const { return kept_cells; }
     bool can_redo() const { return undone.size() > 0; }
@@ -56,9 +73,28 @@ public:
     // Marks are negative and below empty, so no change of the list moves them.
     static constexpr int first_mark = Tile_Map::empty - 1;
 
-    void tile_inserted(int index) { remap([index](int t) { return Tile_Map::inserted(t, index); }); }
-    void tile_removed(int index) { remap([index](int t) { return Tile_Map::removed(t, index); }); }
-    void tiles_swapped(int a, int b) { remap([a, b](int t) { return Tile_Map::swapped(t, a, b); }); }
+    void tile_inserted(int index) {
+        remap([index](int t) { return Tile_Map::inserted(t, index); });
+        for_each_stored_layer([index](const auto& l) { l->cells.tile_inserted(index); });
+    }
+    void tile_removed(int index) {
+        remap([index](int t) { return Tile_Map::removed(t, index); });
+        for_each_stored_layer([index](const auto& l) { l->cells.tile_removed(index); });
+    }
+    void tiles_swapped(int a, int b) {
+        remap([a, b](int t) { return Tile_Map::swapped(t, a, b); });
+        for_each_stored_layer([a, b](const auto& l) { l->cells.tiles_swapped(a, b); });
+    }
+
+    // The layers only the history holds: removed ones a step would bring
+    // back, added ones undone. (A layer the map shows is never among them.)
+    template <typename Visit>
+    void for_each_stored_layer(Visit visit) {
+        for (Map_Edit& e : done)
+            if (e.change == Map_Edit::Layers::removed && e.kept) visit(e.kept);
+        for (Map_Edit& e : undone)
+            if (e.change == Map_Edit::Layers::added && e.kept) visit(e.kept);
+    }
 
 private:
     template <typename Change>

@@ -1,25 +1,20 @@
 #include "model/map/map_image.h"
 
-#include <cstring>
+#include "model/map/layer_stack.h"
+#include "model/map/map_editor.h"
 
-Picture map_image(const Tile_Map& map, const Tile_Store& tiles) {
+Picture map_image(const Map_Editor& map, const Tile_Store& tiles) {
+    const Layer_Stack layers(map, tiles);
     const int tw = int(tiles.tile_width());
     const int th = int(tiles.tile_height());
-    Picture p(map.columns() * tw, map.rows() * th, Color(0, 0, 0, 0));
-    for (int cy = 0; cy < map.rows(); ++cy)
-        for (int cx = 0; cx < map.columns(); ++cx) {
-            const int index = map.at(cx, cy);
-            if (index < 0 || index >= tiles.tile_count()) continue;
-            const Tile& tile = *tiles.tile_at(index);
-            const int t = map.turn_at(cx, cy);
-            for (int y = 0; y < th; ++y) {
-                if (t == turn::none) {
-                    std::memcpy(&p.at(cx * tw, cy * th + y), tile.pixels() + size_t(y) * size_t(tw),
-                                size_t(tw) * sizeof(Color));
-                    continue;
-                }
-                for (int x = 0; x < tw; ++x) p.at(cx * tw + x, cy * th + y) = turn::pixel(tile, t, x, y);
-            }
+    Picture p(layers.columns() * tw, layers.rows() * th, Color(0, 0, 0, 0));
+    Layer_Stack::Cell cell;
+    for (int cy = 0; cy < layers.rows(); ++cy)
+        for (int cx = 0; cx < layers.columns(); ++cx) {
+            layers.at(cx, cy, cell);
+            if (cell.count == 0) continue;
+            for (int y = 0; y < th; ++y)
+                for (int x = 0; x < tw; ++x) p.at(cx * tw + x, cy * th + y) = Layer_Stack::pixel(cell, x, y);
         }
     return p;
 }

@@ -2,8 +2,10 @@
 
 #include "model/tile/picture.h"
 #include "model/tile/tile_store.h"
-#include "model/map/tile_map.h"
 
-// The map as the game would show it: every cell's tile at its place, empty
-// cells (and cells naming a tile the store lacks) fully transparent.
-Picture map_image(const Tile_Map& map, const Tile_Store& tiles);
+class Map_Editor;
+
+// The map as the game would show it: its visible layers drawn together, every
+// cell's tiles at their place, empty cells (and cells naming a tile the store
+// lacks) fully transparent.
+Picture map_image(const Map_Editor& map, const Tile_Store& tiles);

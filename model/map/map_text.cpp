@@ -148,4 +148,18 @@ std::string without_attribute(const std::string& tag, const std::string& name) {
     return tag.substr(0, start) + tag.substr(tag.find(quote, at) + 1);
 }
 
+std::string escaped(const std::string& text) {
+    std::string out;
+    for (char c : text) {
+        switch (c) {
+            case '&': out += "&amp;"; break;
+            case '<': out += "&lt;"; break;
+            case '>': out += "&gt;"; break;
+            case '"': out += "&quot;"; break;
+            default: out += c;
+        }
+    }
+    return out;
+}
+
 }  // namespace map_text

@@ -31,5 +31,7 @@ std::string with_attribute(const std::string& tag, const std::string& name, cons
 std::string attribute(const std::string& tag, const std::string& name);
 // The tag without the attribute.
 std::string without_attribute(const std::string& tag, const std::string& name);
+// The text as an attribute's value holds it: &, <, > and " as entities.
+std::string escaped(const std::string& text);
 
 }  // namespace map_text

@@ -4,6 +4,7 @@
 #include <cstdlib>
 
 #include "model/tile/tile_store.h"
+#include "model/map/layer_stack.h"
 #include "model/map/tile_map.h"
 
 bool Seam_Check::differ(Color a, Color b) const {
@@ -14,26 +15,21 @@ bool Seam_Check::differ(Color a, Color b) const {
 }
 
 const std::vector<Seam>& Seam_Check::run(const Tile_Map& map, const Tile_Store& store) {
+    return run(Layer_Stack({&map}, store), store);
+}
+
+const std::vector<Seam>& Seam_Check::run(const Layer_Stack& layers, const Tile_Store& store) {
     found.clear();
     pairs.assign(2 * 65536, 0);
-    const int count = std::min(store.tile_count(), 256);
-    const Tile* tiles[256] = {};
-    {
-        int i = 0;
-        for (const auto& tile : store.all()) {
-            if (i >= count) break;
-            tiles[i++] = tile.get();
-        }
-    }
     const int w = int(store.tile_width());
     const int h = int(store.tile_height());
-    auto placed = [&](int t) { return t >= 0 && t < count; };
-    // The right column of a against the left column of b, or the bottom row of a against the top row of b.
-    auto meets = [&](bool vertical, int a, int b) {
-        uint8_t& known = memo(vertical, a, b);
+    // The right column of a against the left column of b, or the bottom row
+    // of a against the top row of b, remembered by the tiles' indices.
+    auto meets = [&](bool vertical, const Tile* a, int ia, const Tile* b, int ib) {
+        uint8_t& known = memo(vertical, ia & 255, ib & 255);
         if (known == 0) {
-            const Color* pa = tiles[a]->pixels();
-            const Color* pb = tiles[b]->pixels();
+            const Color* pa = a->pixels();
+            const Color* pb = b->pixels();
             bool seam = false;
             if (vertical) {
                 for (int y = 0; y < h && !seam; ++y) seam = differ(pa[y * w + w - 1], pb[y * w]);
@@ -44,28 +40,30 @@ const std::vector<Seam>& Seam_Check::run(const Tile_Map& map, const Tile_Store& 
         }
         return known == 1;
     };
-    // Turned cells are compared pixel by pixel as they show; unturned pairs
-    // through the table.
-    auto turned_meet = [&](bool vertical, int a, int ta, int b, int tb) {
+    // Turned or stacked cells are compared pixel by pixel as they show;
+    // single unturned tiles through the table.
+    auto seen_meet = [&](bool vertical, const Layer_Stack::Cell& a, const Layer_Stack::Cell& b) {
         const int n = vertical ? h : w;
         for (int i = 0; i < n; ++i) {
-            const Color pa = vertical ? turn::pixel(*tiles[a], ta, w - 1, i) : turn::pixel(*tiles[a], ta, i, h - 1);
-            const Color pb = vertical ? turn::pixel(*tiles[b], tb, 0, i) : turn::pixel(*tiles[b], tb, i, 0);
+            const Color pa = vertical ? Layer_Stack::pixel(a, w - 1, i) : Layer_Stack::pixel(a, i, h - 1);
+            const Color pb = vertical ? Layer_Stack::pixel(b, 0, i) : Layer_Stack::pixel(b, i, 0);
             if (differ(pa, pb)) return false;
         }
         return true;
     };
-    auto joins = [&](bool vertical, int x, int y, int nx, int ny) {
-        const int a = map.at(x, y), b = map.at(nx, ny);
-        const int ta = map.turn_at(x, y), tb = map.turn_at(nx, ny);
-        return ta == turn::none && tb == turn::none ? meets(vertical, a, b) : turned_meet(vertical, a, ta, b, tb);
+    auto joins = [&](bool vertical, const Layer_Stack::Cell& a, const Layer_Stack::Cell& b) {
+        const bool plain = a.count == 1 && b.count == 1 && a.turns[0] == turn::none && b.turns[0] == turn::none;
+        return plain ? meets(vertical, a.tiles[0], a.indices[0], b.tiles[0], b.indices[0]) : seen_meet(vertical, a, b);
     };
-    for (int y = 0; y < map.rows(); ++y)
-        for (int x = 0; x < map.columns(); ++x) {
-            const int here = map.at(x, y);
-            if (!placed(here)) continue;
-            if (placed(map.at(x + 1, y)) && !joins(true, x, y, x + 1, y)) found.push_back(Seam{x, y, true});
-            if (placed(map.at(x, y + 1)) && !joins(false, x, y, x, y + 1)) found.push_back(Seam{x, y, false});
+    Layer_Stack::Cell here, right, below;
+    for (int y = 0; y < layers.rows(); ++y)
+        for (int x = 0; x < layers.columns(); ++x) {
+            layers.at(x, y, here);
+            if (here.count == 0) continue;
+            layers.at(x + 1, y, right);
+            layers.at(x, y + 1, below);
+            if (right.count > 0 && !joins(true, here, right)) found.push_back(Seam{x, y, true});
+            if (below.count > 0 && !joins(false, here, below)) found.push_back(Seam{x, y, false});
         }
     return found;
 }

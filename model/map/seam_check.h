@@ -5,6 +5,7 @@
 
 #include "model/color/color.h"
 
+class Layer_Stack;
 class Tile_Map;
 class Tile_Store;
 
@@ -30,6 +31,9 @@ public:
     // The seams, left to right and top to bottom, each cell's vertical edge
     // before its horizontal one. Indices past the store's tiles count as empty.
     const std::vector<Seam>& run(const Tile_Map& map, const Tile_Store& store);
+    // The same for layers drawn together: where a cell shows more than one
+    // tile, the pixels compared are the ones seen.
+    const std::vector<Seam>& run(const Layer_Stack& layers, const Tile_Store& store);
     const std::vector<Seam>& seams() const { return found; }
     int threshold() const { return limit; }
 

@@ -6,6 +6,8 @@
 #include <cstring>
 #include <sstream>
 
+#include "model/map/map_text.h"
+
 namespace terrain_file {
 
 namespace {
@@ -21,20 +23,6 @@ bool parse_color(const char* text, Color& into) {
     // "#aarrggbb" keeps alpha first; the terrain's colour is drawn opaque.
     into = Color(uint8_t(value >> 16), uint8_t(value >> 8), uint8_t(value));
     return true;
-}
-
-std::string escaped(const std::string& text) {
-    std::string out;
-    for (char c : text) {
-        switch (c) {
-            case '&': out += "&amp;"; break;
-            case '<': out += "&lt;"; break;
-            case '>': out += "&gt;"; break;
-            case '"': out += "&quot;"; break;
-            default: out += c;
-        }
-    }
-    return out;
 }
 
 void problem(std::string& problems, const std::string& line) {
@@ -89,11 +77,11 @@ bool read(const tinyxml2::XMLElement* tileset, int tile_count, Terrain_Set& into
 }
 
 std::string wangset_text(const Terrain_Set& set, const std::string& indent) {
-    std::string text = "<wangset name=\"" + escaped(set.name) + "\" type=\"corner\" tile=\"-1\">\n";
+    std::string text = "<wangset name=\"" + map_text::escaped(set.name) + "\" type=\"corner\" tile=\"-1\">\n";
     for (const Terrain_Set::Terrain& t : set.terrains) {
         char color[8];
         std::snprintf(color, sizeof color, "#%02x%02x%02x", t.color.red, t.color.green, t.color.blue);
-        text += indent + " <wangcolor name=\"" + escaped(t.name) + "\" color=\"" + color +
+        text += indent + " <wangcolor name=\"" + map_text::escaped(t.name) + "\" color=\"" + color +
                 "\" tile=\"-1\" probability=\"1\"/>\n";
     }
     for (const auto& [tile, c] : set.tiles()) {

@@ -44,7 +44,7 @@ int Tileset::make_map() {
     map_editor = std::make_unique<Map_Editor>(tile_store->tile_width(), tile_store->tile_height());
     int left_out = 0;
     if (old) {
-        left_out = map_editor->take_cells(old->map());
+        left_out = map_editor->take_layers(*old);
         // The tiles are the same tiles at another size: their terrains stay.
         map_editor->place_terrain(old->terrain());
         map_editor->in_preview = old->in_preview;

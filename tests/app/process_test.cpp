@@ -9,6 +9,7 @@
 
 #include "model/core/data_file.h"
 #include "model/map/tile_map.h"
+#include "model/map/map_editor.h"
 #include "model/map/map_file.h"
 #include "model/tile/sheet.h"
 #include "model/tileset/tileset_file.h"
@@ -84,8 +85,8 @@ TEST(Program, BatchConversionsWriteWholeFilesOrNone) {
             for (int k = 0; k < 80; ++k) px[k] = Color::from_word(seed = seed * 1664525u + 1013904223u);
         }));
     ASSERT_GT(Tileset_File::write(tiles, d + "/forest.wst"), 0);
-    Tile_Map map(60, 48);
-    map.set(0, 0, 3), map.set(2, 1, 16);
+    Map_Editor map(8, 10);
+    map.place(0, 0, 3), map.place(2, 1, 16);
     ASSERT_TRUE(Map_File::write(map, 8, 10, d + "/forest.tmx"));
     write_bytes(d + "/short.wst", {'W', 'S', 'T', 10, 0, 8, 10, 1, 0, 0, 0, 1, 2});
     fs::create_directory(dir.path / "elsewhere");

@@ -38,7 +38,7 @@ TEST(MapFile, ARoundTripKeepsEveryCellAndTheFileSaysWhatTiledReads) {
     m.place(3, 7, 12);
     m.place(0, 14, 1);
     const std::string path = dir.file("forest.tmx");
-    ASSERT_TRUE(Map_File::write(m.map(), 24, 32, path));
+    ASSERT_TRUE(Map_File::write(m, 24, 32, path));
 
     Map_Editor back(24, 32);
     const Map_File::Reading r = Map_File::read(path, back, 24, 32, 256);
@@ -83,7 +83,7 @@ TEST(MapFile, ARoundTripKeepsEveryCellAndTheFileSaysWhatTiledReads) {
     EXPECT_FALSE(std::filesystem::exists(path + ".part"));
 
     // A place that cannot be written fails and leaves nothing behind.
-    EXPECT_FALSE(Map_File::write(m.map(), 24, 32, dir.file("missing/forest.tmx")));
+    EXPECT_FALSE(Map_File::write(m, 24, 32, dir.file("missing/forest.tmx")));
 }
 
 // Cells 1,2,0,3 / 0,0,4,1 as other map tools store them (packed by Python's
@@ -105,7 +105,7 @@ TEST(MapFile, EveryLayerEncodingIsReadAndWrittenBackInItsOwn) {
         EXPECT_EQ(r.cells, 5) << attributes;
         EXPECT_EQ(m.map().at(3, 0) * 10 + m.map().at(2, 1), 23) << attributes;
         m.place(1, 1, 8);
-        ASSERT_TRUE(Map_File::write(m.map(), 24, 24, path, Map_File::text_of(path))) << attributes;
+        ASSERT_TRUE(Map_File::write(m, 24, 24, path, Map_File::text_of(path))) << attributes;
         EXPECT_NE(Map_File::text_of(path).find("encoding=\"" + attributes + "\""), std::string::npos) << attributes;
         Map_Editor again(24, 24);
         r = Map_File::read(path, again, 24, 24, 10);
@@ -129,7 +129,7 @@ TEST(MapFile, TheTerrainSetIsACornerWangSetOfTheTilesetAndComesBack) {
     set.set_corners(4, {1, 1, 2, 1});
     m.set_terrain(set);
     m.place(2, 2, 4);
-    ASSERT_TRUE(Map_File::write(m.map(), 24, 24, path, {}, &m.terrain()));
+    ASSERT_TRUE(Map_File::write(m, 24, 24, path, {}));
     const std::string text = Map_File::text_of(path);
     EXPECT_NE(text.find("name=\"Shore &amp; sea\" type=\"corner\""), std::string::npos) << text;
     EXPECT_NE(text.find("<wangtile tileid=\"4\" wangid=\"0,1,0,2,0,1,0,1\"/>"), std::string::npos) << text;
@@ -139,14 +139,16 @@ TEST(MapFile, TheTerrainSetIsACornerWangSetOfTheTilesetAndComesBack) {
     EXPECT_EQ(back.wanted(2, 2), (Terrain_Set::Corners{1, 1, 2, 1})) << "corners follow the tiles read";
 
     // Another tool's tileset with a wang set of edges: kept, ours added; the
-    // same set written again leaves the file as it is.
+    // same map written again (knowing its layers' ids) leaves the file as it is.
     write_text(path, "<map width=\"4\" height=\"3\" tilewidth=\"24\" tileheight=\"24\"><tileset firstgid=\"1\">"
                      "<wangsets><wangset name=\"roads\" type=\"edge\"><wangcolor name=\"r\"/></wangset></wangsets>"
                      "</tileset><layer width=\"4\" height=\"3\"><data encoding=\"csv\">1,0,0,0,0,0,0,0,0,0,0,0</data></layer></map>");
-    ASSERT_TRUE(Map_File::write(m.map(), 24, 24, path, Map_File::text_of(path), &m.terrain()));
+    std::vector<int> ids;
+    ASSERT_TRUE(Map_File::write(m, 24, 24, path, Map_File::text_of(path), &ids));
+    m.layers_filed(ids);
     const std::string kept = Map_File::text_of(path);
     EXPECT_NE(kept.find("<wangset name=\"roads\" type=\"edge\"><wangcolor name=\"r\"/></wangset>"), std::string::npos);
-    ASSERT_TRUE(Map_File::write(m.map(), 24, 24, path, kept, &m.terrain()));
+    ASSERT_TRUE(Map_File::write(m, 24, 24, path, kept));
     EXPECT_EQ(Map_File::text_of(path), kept);
     EXPECT_TRUE(Map_File::read(path, back, 24, 24, 10).whole);
     EXPECT_TRUE(back.terrain() == set);
@@ -157,7 +159,7 @@ TEST(MapFile, TurnedCellsKeepTheirFlagsAndShowTurned) {
     const std::string path = dir.file("turns.tmx");
     Map_Editor m(24, 24);
     for (int t = 0; t < 8; ++t) m.place(t, 0, 1, t);
-    ASSERT_TRUE(Map_File::write(m.map(), 24, 24, path));
+    ASSERT_TRUE(Map_File::write(m, 24, 24, path));
     // Tile 1 is gid 2: flipped across it is 2 with the top bit, 2147483650.
     EXPECT_NE(Map_File::text_of(path).find("2,2147483650,1073741826,3221225474,536870914,"), std::string::npos);
     Map_Editor back(24, 24);

@@ -1,0 +1,83 @@
+#include "model/map/layer_stack.h"
+
+#include <algorithm>
+#include <utility>
+
+#include "model/map/map_editor.h"
+#include "model/map/tile_map.h"
+#include "model/tile/tile_store.h"
+
+namespace {
+std::vector<const Tile_Map*> visible_layers(const Map_Editor& editor) {
+    std::vector<const Tile_Map*> shown;
+    for (int i = 0; i < editor.layer_count(); ++i)
+        if (editor.layer(i).visible) shown.push_back(&editor.layer(i).cells);
+    return shown;
+}
+}  // namespace
+
+Layer_Stack::Layer_Stack(std::vector<const Tile_Map*> layers, const Tile_Store& store, const Tile* live,
+                         int live_index)
+    : maps(std::move(layers)), tiles(store), live_tile(live), live_at(live ? live_index : -2) {
+    if (maps.size() > size_t(most)) maps.resize(size_t(most));
+    for (const Tile_Map* m : maps) {
+        width = std::max(width, m->columns());
+        height = std::max(height, m->rows());
+    }
+}
+
+Layer_Stack::Layer_Stack(const Map_Editor& editor, const Tile_Store& store, const Tile* live, int live_index)
+    : Layer_Stack(visible_layers(editor), store, live, live_index) {
+    width = editor.map().columns();
+    height = editor.map().rows();
+}
+
+void Layer_Stack::at(int x, int y, Cell& out) const {
+    out.count = 0;
+    for (const Tile_Map* m : maps) {
+        const int index = m->at(x, y);
+        const Tile* tile = index == live_at ? live_tile
+                           : index >= 0 && index < tiles.tile_count() ? tiles.tile_at(index)
+                                                                       : nullptr;
+        if (!tile) continue;
+        out.tiles[out.count] = tile;
+        out.indices[out.count] = index;
+        out.turns[out.count] = uint8_t(m->turn_at(x, y));
+        ++out.count;
+    }
+}
+
+bool Layer_Stack::holds(int cell, int tile) const {
+    return std::any_of(maps.begin(), maps.end(), [&](const Tile_Map* m) { return m->at(cell % width, cell / width) == tile; });
+}
+
+uint64_t Layer_Stack::key(int cell) const {
+    const int x = cell % width, y = cell / width;
+    uint64_t k = 0;
+    for (const Tile_Map* m : maps) {
+        const int index = m->at(x, y);
+        if (index < 0 || index >= tiles.tile_count()) continue;
+        // Mixed in layer by layer, so the order counts.
+        k = (k ^ uint64_t(index * 8 + m->turn_at(x, y) + 1)) * 0x100000001b3ull;
+        k ^= k >> 29;
+    }
+    return k;
+}
+
+Color Layer_Stack::pixel(const Cell& cell, int x, int y) {
+    if (cell.count == 0) return Color(0, 0, 0, 0);
+    Color c = turn::pixel(*cell.tiles[0], cell.turns[0], x, y);
+    for (int i = 1; i < cell.count; ++i) c = composited(c, turn::pixel(*cell.tiles[i], cell.turns[i], x, y));
+    return c;
+}
+
+Color composited(Color below, Color above) {
+    const int a = above.alpha;
+    if (a == 255 || below.alpha == 0) return above;
+    if (a == 0) return below;
+    // Straight alpha: the colours weighed by how much of each is seen.
+    const int seen_below = below.alpha * (255 - a) / 255;
+    const int out = a + seen_below;
+    auto mix = [&](int d, int s) { return uint8_t((s * a + d * seen_below) / out); };
+    return Color(mix(below.red, above.red), mix(below.green, above.green), mix(below.blue, above.blue), uint8_t(out));
+}
