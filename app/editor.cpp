@@ -243,8 +243,7 @@ void Editor::repaint(bool present) {
     if (g_message_box) {
         Tileset* t = current();
         if (t && t->map().in_preview)
-            g_message_box->preview().draw_map(t->map().map(), t->map().generation(), t->store(), tile_for_preview(),
-                                              t->store().current_index());
+            g_message_box->preview().draw_map(t->map(), t->store(), tile_for_preview(), t->store().current_index());
         else
             g_message_box->preview().draw_tile(tile_for_preview());
     }

@@ -6,7 +6,8 @@
 #include "platform/main_window.h"
 #include "platform/texture.h"
 #include "platform/ui_colors.h"
-#include "model/map/tile_map.h"
+#include "model/map/layer_stack.h"
+#include "model/map/map_editor.h"
 #include "model/tile/tile.h"
 #include "model/tile/tile_store.h"
 
@@ -102,16 +103,22 @@ void Preview_Pane::draw_tile(const Tile* tile) {
     texture->draw_at(shown_area.x, shown_area.y);
 }
 
-void Preview_Pane::draw_map(const Tile_Map& map, uint64_t generation, const Tile_Store& store, const Tile* live,
-                            int live_index) {
+void Preview_Pane::draw_map(const Map_Editor& map, const Tile_Store& store, const Tile* live, int live_index) {
+    const uint64_t generation = map.generation();
+    const int cells = map.map().cell_count();
+    auto holds = [&](int cell) {
+        for (int i = 0; i < map.layer_count(); ++i)
+            if (map.layer(i).visible && map.layer(i).cells.at(cell) == live_index) return true;
+        return false;
+    };
     // Looked for again only when the cells or the tile changed: a repaint
     // runs at every event.
-    const bool still_there = searched_cell >= 0 && searched_cell < map.cell_count() && map.at(searched_cell) == live_index;
+    const bool still_there = searched_cell >= 0 && searched_cell < cells && holds(searched_cell);
     if (searched_generation != generation || searched_index != live_index || searched_map != &map ||
         (searched_cell >= 0 && !still_there)) {
         searched_cell = -1;
-        for (int c = 0; c < map.cell_count() && searched_cell < 0; ++c)
-            if (map.at(c) == live_index) searched_cell = c;
+        for (int c = 0; c < cells && searched_cell < 0; ++c)
+            if (holds(c)) searched_cell = c;
         searched_generation = generation;
         searched_index = live_index;
         searched_map = &map;
@@ -130,21 +137,21 @@ void Preview_Pane::draw_map(const Tile_Map& map, uint64_t generation, const Tile
                       std::equal(shown_pixels.begin(), shown_pixels.end(), live->pixels(),
                                  live->pixels() + live->pixel_count());
     if (!same) {
+        const Layer_Stack layers(map, store, live, live_index);
         // The first cell holding the tile in the middle of the body.
-        const int ox = (first % map.columns()) * tw + tw / 2 - body_width / 2;
-        const int oy = (first / map.columns()) * th + th / 2 - body_height / 2;
+        const int ox = (first % layers.columns()) * tw + tw / 2 - body_width / 2;
+        const int oy = (first / layers.columns()) * th + th / 2 - body_height / 2;
         picture.assign(size_t(body_width) * size_t(body_height), ui_colors[ui_dark_grey]);
         // Cell by cell over the body, each cell's rows read straight from its
         // tile unless it is turned: this runs at every event of a stroke.
         const int first_cx = std::max(0, ox / tw), first_cy = std::max(0, oy / th);
-        for (int cy = first_cy; cy < map.rows() && cy * th < oy + body_height; ++cy)
-            for (int cx = first_cx; cx < map.columns() && cx * tw < ox + body_width; ++cx) {
-                const int index = map.at(cx, cy);
-                const Tile* tile = index == live_index ? live
-                                   : index >= 0 && index < store.tile_count() ? store.tile_at(index)
-                                                                              : nullptr;
-                if (!tile) continue;
-                const int t = map.turn_at(cx, cy);
+        Layer_Stack::Cell stack;
+        for (int cy = first_cy; cy < layers.rows() && cy * th < oy + body_height; ++cy)
+            for (int cx = first_cx; cx < layers.columns() && cx * tw < ox + body_width; ++cx) {
+                layers.at(cx, cy, stack);
+                if (stack.count == 0) continue;
+                const Tile* tile = stack.tiles[0];
+                const bool plain = stack.count == 1 && stack.turns[0] == turn::none;
                 const int x0 = std::max(cx * tw - ox, 0), x1 = std::min((cx + 1) * tw - ox, body_width);
                 const int y0 = std::max(cy * th - oy, 0), y1 = std::min((cy + 1) * th - oy, body_height);
                 for (int y = y0; y < y1; ++y) {
@@ -153,7 +160,7 @@ void Preview_Pane::draw_map(const Tile_Map& map, uint64_t generation, const Tile
                     const int checker_row = y / checker_h;
                     for (int x = x0; x < x1; ++x) {
                         const int tx = x + ox - cx * tw;
-                        const Color c = t == turn::none ? tile->pixels()[ty * tw + tx] : turn::pixel(*tile, t, tx, ty);
+                        const Color c = plain ? tile->pixels()[ty * tw + tx] : Layer_Stack::pixel(stack, tx, ty);
                         const bool light = ((x / checker_w) + checker_row) % 2 == 0;
                         out[x] = over(ui_colors[light ? ui_grey_169 : ui_grey_101], c);
                     }

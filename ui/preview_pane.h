@@ -9,7 +9,7 @@
 
 class Texture;
 class Tile;
-class Tile_Map;
+class Map_Editor;
 class Tile_Store;
 
 // "Preview": the current tile at its real size, repeated side by side over the
@@ -34,12 +34,11 @@ public:
 
     // The pane with the tile repeated; no tile leaves the body empty.
     void draw_tile(const Tile* tile);
-    // The map around the first cell that holds the live tile's index, at real
-    // size, the live tile (the one being drawn) standing in for every cell
-    // that holds it; the tile repeated when no cell does. The map's
-    // generation tells when its cells changed.
-    void draw_map(const Tile_Map& map, uint64_t generation, const Tile_Store& store, const Tile* live,
-                  int live_index);
+    // The map's visible layers around the first cell that holds the live
+    // tile's index, at real size, the live tile (the one being drawn)
+    // standing in for every cell that holds it; the tile repeated when no
+    // cell does.
+    void draw_map(const Map_Editor& map, const Tile_Store& store, const Tile* live, int live_index);
     // Where the repeated picture stands; empty before it was first drawn.
     Rectangle picture_area() const { return shown_area; }
 
@@ -67,7 +66,7 @@ private:
     int shown_cell = -1;
     int shown_index = -1;
     // The first cell holding the tile, as last looked for.
-    const Tile_Map* searched_map = nullptr;
+    const Map_Editor* searched_map = nullptr;
     uint64_t searched_generation = 0;
     int searched_index = -1;
     int searched_cell = -1;

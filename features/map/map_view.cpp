@@ -7,6 +7,7 @@
 #include "platform/texture.h"
 #include "model/tile/tile_store.h"
 #include "model/core/line_walk.h"
+#include "model/map/layer_stack.h"
 #include "model/map/map_editor.h"
 #include "model/map/map_image.h"
 #include "ui/backdrop.h"
@@ -23,7 +24,8 @@ void paint_view(void* view) { static_cast<Map_View*>(view)->draw(); }
 Backdrop::Area view_area(const void* view) { return static_cast<const Map_View*>(view)->modal_area(); }
 
 Rectangle centred_frame() {
-    const int width = Map_View::map_room + gap + Map_View::chooser_size + Pane::inset_left + Pane::inset_right;
+    const int width = Map_View::map_room + gap + Map_View::chooser_size + gap + Map_View::layer_column +
+                      Pane::inset_left + Pane::inset_right;
     const int height = Map_View::map_room + row_gap + button_height + Pane::inset_top + Pane::inset_bottom;
     return Rectangle{(int(g_main_window->width()) - width) / 2, (int(g_main_window->height()) - height) / 2, width,
                      height - Pane::header_height};
@@ -45,7 +47,7 @@ Map_View::Map_View(Map_Editor& editor, const Tile_Store& store, const std::strin
       start_generation(editor.generation()) {
     map_pixels.assign(size_t(map_width(editor, store)) * factor * size_t(map_height(editor, store)) * factor,
                       Color());
-    composed_cells.assign(size_t(editor.map().cell_count()), -2);
+    composed_cells.assign(size_t(editor.map().cell_count()), ~uint64_t(0));
     compose_chooser();
     compose_map();
 }
@@ -68,6 +70,14 @@ Rectangle Map_View::button(int which) const {
     const Rectangle c = pane.client_area();
     constexpr int width = 64;
     constexpr int spacing = 4;
+    if (which >= button_layer_add) {
+        // Under the list of layers, two to a row.
+        const int k = which - button_layer_add;
+        const int half = (layer_column - spacing) / 2;
+        const int x = chooser().x + chooser_size + gap;
+        const int top = c.y + layer_row_height * (Map_Editor::most_layers + 1) + row_gap;
+        return Rectangle{x + (k % 2) * (half + spacing), top + (k / 2) * 28, half, 24};
+    }
     const int y = c.y + map_room + row_gap;
     if (which == button_close) return Rectangle{c.x + c.width - width, y, width, button_height};
     if (which == button_image) return Rectangle{c.x + c.width - 2 * width - 2 * spacing, y, width, button_height};
@@ -125,7 +135,7 @@ const std::vector<int>& Map_View::missing_cells() {
 
 const std::vector<Seam>& Map_View::seam_list() {
     if (checked_generation != editor.generation()) {
-        checker.run(editor.map(), store);
+        checker.run(Layer_Stack(editor, store), store);
         checked_generation = editor.generation();
     }
     return checker.seams();
@@ -148,6 +158,10 @@ bool Map_View::handle(const SDL_Event& event) {
             close_asked = true;
             return false;
         case SDL_EVENT_KEY_DOWN: {
+            if (renaming >= 0) {
+                type_name(event.key);
+                return true;
+            }
             const bool ctrl = (event.key.mod & SDL_KMOD_CTRL) != 0;
             switch (event.key.key) {
                 case key_escape: return false;
@@ -177,6 +191,8 @@ bool Map_View::handle(const SDL_Event& event) {
                         brush_turn = turn::flipped_v(brush_turn);
                     break;
                 case SDLK_X: brush_turn = turn::flipped_h(brush_turn); break;
+                case SDLK_PAGEUP: editor.choose_layer(editor.current_layer() + 1); break;
+                case SDLK_PAGEDOWN: editor.choose_layer(editor.current_layer() - 1); break;
                 default: break;
             }
             return true;
@@ -184,7 +200,8 @@ bool Map_View::handle(const SDL_Event& event) {
         case SDL_EVENT_MOUSE_BUTTON_DOWN:
             if (event.button.button == SDL_BUTTON_LEFT && button(button_close).contains(event.button.x, event.button.y))
                 return false;
-            press(event.button.x, event.button.y, event.button.button);
+            if (!layer_press(event.button.x, event.button.y, event.button.button, event.button.clicks))
+                press(event.button.x, event.button.y, event.button.button);
             return true;
         case SDL_EVENT_MOUSE_BUTTON_UP:
             if (event.button.button == SDL_BUTTON_LEFT && stroking) {
@@ -326,6 +343,14 @@ void Map_View::push_button(int which) {
             break;
         case button_undo: editor.undo(); break;
         case button_redo: editor.redo(); break;
+        case button_layer_add: editor.add_layer(); break;
+        case button_layer_remove: editor.remove_layer(); break;
+        case button_layer_raise: editor.move_layer(editor.current_layer(), editor.current_layer() + 1); break;
+        case button_layer_lower: editor.move_layer(editor.current_layer(), editor.current_layer() - 1); break;
+        case button_layer_rename:
+            renaming = editor.current_layer();
+            typed_name = editor.layer(renaming).name;
+            break;
         default: break;
     }
 }

@@ -25,6 +25,10 @@ class Tile_Store;
 // corner of the tile with the terrain (the right button clears it), and the
 // strip under the chooser chooses and adds terrains and shows the corner
 // combinations that have no tile yet, which the map marks where they are wanted.
+// The column on the right lists the layers, top first: a click chooses the
+// layer painted in, its box shows or hides it, a double click (or "Rename")
+// renames it in place, and the buttons under the list add, delete, raise and
+// lower. Page Up and Page Down choose the layer above or below.
 // Escape, "Close", a quit or a close request close it. Keys: p paint, f fill,
 // e eraser, t terrain, g grid, s seams, v the map in the editor's Preview
 // (drawn live around the tile being drawn), i the map's image, x and y flip the
@@ -35,8 +39,11 @@ class Map_View {
 public:
     enum Tool { tool_paint, tool_fill, tool_eraser, tool_terrain };
     enum Button { button_paint, button_fill, button_eraser, button_terrain, button_grid, button_seams, button_preview,
-                  button_undo, button_redo, button_image, button_close, button_count };
+                  button_undo, button_redo, button_image, button_close, button_layer_add, button_layer_remove,
+                  button_layer_raise, button_layer_lower, button_layer_rename, button_count };
     static constexpr int map_room = 560;
+    static constexpr int layer_column = 120;
+    static constexpr int layer_row_height = 20;
     static constexpr int chooser_columns = 16;
     static constexpr int chooser_cell = 32;
     static constexpr int chooser_size = chooser_columns * chooser_cell;
@@ -73,6 +80,12 @@ public:
     int current_terrain() const { return terrain; }
     // How the painted tile is turned (turn::none to turn::diagonal bits).
     int brush() const { return brush_turn; }
+    // The row of a layer in the list (the top layer first) and its box that
+    // shows or hides it.
+    Rectangle layer_row(int layer) const;
+    Rectangle layer_eye(int layer) const;
+    // The layer whose name is being typed, -1 for none.
+    int renaming_layer() const { return renaming; }
     // The cells whose corner combination has no tile (checked when the map changed).
     const std::vector<int>& missing_cells();
     int chosen_tile() const { return chosen; }
@@ -99,6 +112,9 @@ private:
     void draw_terrain();
     void terrain_press(float x, float y, Uint8 mouse_button);
     void paint_terrain_at(float x, float y);
+    bool layer_press(float x, float y, Uint8 mouse_button, int clicks);
+    void type_name(const SDL_KeyboardEvent& key);
+    void draw_layers();
 
     Map_Editor& editor;
     const Tile_Store& store;
@@ -120,7 +136,8 @@ private:
     uint64_t start_generation;
     uint64_t composed_generation = ~uint64_t(0);
     uint64_t checked_generation = ~uint64_t(0);
-    std::vector<int> composed_cells;
+    // What each cell of the map picture shows (Layer_Stack::key).
+    std::vector<uint64_t> composed_cells;
     std::vector<Color> map_pixels;
     std::unique_ptr<Texture> map_image;
     std::unique_ptr<Texture> chooser_image;
@@ -132,6 +149,8 @@ private:
     int last_corner_y = -1;
     uint64_t missing_generation = ~uint64_t(0);
     std::vector<int> missing;
+    int renaming = -1;
+    std::string typed_name;
 };
 
 // The view run on a tileset's map; what the user chose and whether the map changed.

@@ -9,6 +9,7 @@
 #include "platform/main_window.h"
 #include "platform/texture.h"
 #include "model/tile/tile_store.h"
+#include "model/map/layer_stack.h"
 #include "model/map/map_editor.h"
 #include "features/map/map_view.h"
 #include "ui/checkerboard.h"
@@ -27,8 +28,9 @@ constexpr Color pressed_face = ui_colors[ui_background];
 // A seam mark covers this many pixels on each side of its edge.
 constexpr int seam_half_width = 1;
 
-const char* const button_labels[Map_View::button_count] = {"Paint", "Fill", "Eraser", "Terrain", "Grid",   "Seams",
-                                                           "Preview", "Undo", "Redo", "Image",   "Close"};
+const char* const button_labels[Map_View::button_count] = {
+    "Paint", "Fill", "Eraser", "Terrain", "Grid",   "Seams", "Preview", "Undo",
+    "Redo",  "Image", "Close", "New",    "Delete", "Raise", "Lower",   "Rename"};
 constexpr Color missing_color = ui_colors[ui_magenta];
 constexpr Color mark_frame = ui_colors[ui_black];
 
@@ -38,41 +40,41 @@ Color sampled(const Tile& tile, int x, int y, int w, int h) {
 }
 }  // namespace
 
-// Only the cells that changed since the last composition are drawn again.
+// Only the cells whose visible tiles changed since the last composition are
+// drawn again.
 void Map_View::compose_map() {
     if (composed_generation == editor.generation() && map_image) return;
     composed_generation = editor.generation();
-    const Tile_Map& map = editor.map();
+    const Layer_Stack layers(editor, store);
     const int cw = int(store.tile_width()) * factor;
     const int ch = int(store.tile_height()) * factor;
-    const int stride = map.columns() * cw;
+    const int stride = layers.columns() * cw;
     bool any = false;
-    for (int cell = 0; cell < map.cell_count(); ++cell) {
-        const int tile = map.at(cell) < store.tile_count() ? map.at(cell) : Tile_Map::empty;
-        const int t = map.turn_at(cell);
-        // A cell is composed again when its tile or its turn changed.
-        const int shown = tile < 0 ? tile : tile * 8 + t;
+    Layer_Stack::Cell stack;
+    for (int cell = 0; cell < layers.columns() * layers.rows(); ++cell) {
+        const uint64_t shown = layers.key(cell);
         if (composed_cells[size_t(cell)] == shown) continue;
         composed_cells[size_t(cell)] = shown;
         any = true;
-        const int left = (cell % map.columns()) * cw;
-        const int top = (cell / map.columns()) * ch;
-        const Tile* tile_shown = tile >= 0 ? store.tile_at(tile) : nullptr;
+        const int cx = cell % layers.columns(), cy = cell / layers.columns();
+        layers.at(cx, cy, stack);
+        const int left = cx * cw;
+        const int top = cy * ch;
         for (int y = 0; y < ch; ++y) {
             Color* row = map_pixels.data() + size_t(top + y) * size_t(stride) + size_t(left);
             for (int x = 0; x < cw; ++x) {
-                if (!tile_shown) {
+                if (stack.count == 0) {
                     row[x] = empty_color;
                     continue;
                 }
                 const bool light = ((left + x) / checker_cell + (top + y) / checker_cell) % 2 == 0;
-                row[x] = on_checkerboard(turn::pixel(*tile_shown, t, x / factor, y / factor), light);
+                row[x] = on_checkerboard(Layer_Stack::pixel(stack, x / factor, y / factor), light);
             }
         }
     }
     if (!map_image) {
         map_image.reset(Texture::from_pixels(g_main_window->renderer(), map_pixels.data(), std::max(stride, 1),
-                                             std::max(map.rows() * ch, 1)));
+                                             std::max(layers.rows() * ch, 1)));
         map_image->set_opaque(true);
     } else if (any) {
         map_image->update(map_pixels.data());
@@ -131,6 +133,7 @@ void Map_View::draw() {
         w.frame(r, hover_color);
     }
     draw_terrain();
+    draw_layers();
     draw_buttons();
     draw_status();
 }
