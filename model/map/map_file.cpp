@@ -238,10 +238,11 @@ size_t line_start(const std::string& text, size_t at) {
 }
 
 // The source with only the map's tag, its tile layers and the terrain set
-// (when changed) edited: the layers this map read stand where they stood
-// (in the map's order), layers removed here go, new ones follow the last,
-// and layers it did not read stay untouched. Empty when the source is no map
-// this can edit. The ids the layers got are put in ids.
+// (when changed) edited: the map's layers, in its order, fill the places of
+// the layers it read (removed ones included), places left over go, layers
+// left over follow the last; layers it did not read stay untouched. Empty
+// when the source is no map this can edit. The ids the layers got are put
+// in ids.
 std::string edited(const std::string& source, const Map_Editor& map, uint32_t tile_width, uint32_t tile_height,
                    const std::string& sheet, std::vector<int>& ids) {
     XMLDocument doc;
@@ -312,17 +313,17 @@ std::string edited(const std::string& source, const Map_Editor& map, uint32_t ti
             texts.push_back(new_layer_element(map.layer(i), w));
         }
     }
-    // The places of the layers read, filled in the map's order.
+    // The places of the layers this map read (removed ones too), filled in
+    // the map's order; places left over go, layers left over follow.
     std::vector<size_t> slots;
     const std::vector<int>& known = map.known_file_keys();
-    for (size_t j = 0; j < elements.size(); ++j) {
-        if (claimed[j])
-            slots.push_back(j);
-        else if (std::find(known.begin(), known.end(), keys[j]) != known.end()) {
-            const size_t start = line_start(source, elements[j].tag_begin);
-            edits.push_back({start, elements[j].end - start, ""});
-        }
+    for (size_t j = 0; j < elements.size(); ++j)
+        if (claimed[j] || std::find(known.begin(), known.end(), keys[j]) != known.end()) slots.push_back(j);
+    for (size_t k = texts.size(); k < slots.size(); ++k) {
+        const size_t start = line_start(source, elements[slots[k]].tag_begin);
+        edits.push_back({start, elements[slots[k]].end - start, ""});
     }
+    if (slots.size() > texts.size()) slots.resize(texts.size());
     std::string after_slots;
     for (size_t i = 0; i < texts.size(); ++i) {
         if (i < slots.size()) {

@@ -28,8 +28,8 @@ public:
     // Writes the map. With the text of the map file as source, only the map's
     // tile layers are written into it and everything else stays as it is:
     // objects, layers of other kinds and in groups, tile layers it could not
-    // read, tilesets, properties. The layers it read stand where they stood,
-    // in the map's order; a layer removed here goes, new ones follow them.
+    // read, tilesets, properties. The map's layers, in its order, take the
+    // places of the layers it read; places left over go, new layers follow.
     // The terrain set is kept in the map's tileset as its corner wang set
     // (replacing the one there, and only when it differs from it). False when
     // the file could not be written (a link there counts as a failure); a

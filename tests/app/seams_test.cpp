@@ -77,6 +77,14 @@ TEST_F(SeamsTest, UndoAndRedoOfTheTileListGiveBackTheTilesInOrderWithTheirMapCel
     run(command_redo);
     run(command_undo);
     EXPECT_EQ(map.map().at(0, 0), 1);
+    // A layer removed before the tile was deleted brings its cells back with it.
+    ASSERT_TRUE(map.add_layer());
+    map.place(5, 5, 1);
+    ASSERT_TRUE(map.remove_layer());
+    run(command_delete_tile);
+    run(command_undo);
+    ASSERT_TRUE(map.undo());
+    EXPECT_EQ(map.map().at(5, 5), 1);
 
     // With one tile, delete clears it and redo clears it again.
     ASSERT_TRUE(g_editor->tilesets().new_tileset(8, 8));

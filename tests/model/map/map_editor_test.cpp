@@ -3,6 +3,9 @@
 
 #include <gtest/gtest.h>
 
+#include <set>
+#include <string>
+
 #include "model/tileset/tileset.h"
 
 namespace {
@@ -156,5 +159,61 @@ TEST(MapEditor, HistoryDropsItsOldestStepsToStayBounded) {
     // Redo is dropped by a new step, and its cells no longer count.
     ASSERT_TRUE(tiny.fill(0, 0, 5));
     EXPECT_EQ(tiny.history().cells_kept(), size_t(480 * 480));
+}
+}  // namespace
+
+namespace {
+std::vector<std::string> names(const Map_Editor& m) {
+    std::vector<std::string> all;
+    for (int i = 0; i < m.layer_count(); ++i) all.push_back(m.layer(i).name);
+    return all;
+}
+
+TEST(MapEditor, EachChangeOfTheLayersIsAStepAndARemovedLayerComesBackWhole) {
+    Map_Editor m(48, 48);
+    m.place(0, 0, 1);
+    m.mark_saved();
+    ASSERT_TRUE(m.add_layer());
+    EXPECT_EQ(m.current_layer(), 1);
+    m.show_layer(1, false);
+    m.begin_stroke();
+    m.paint(2, 2, 5, turn::flip_v);
+    m.end_stroke();
+    EXPECT_TRUE(m.layer(1).visible) << "a layer painted on shows again";
+    EXPECT_EQ(m.layer(0).cells.at(2, 2), Tile_Map::empty) << "the tools paint in the current layer";
+    ASSERT_TRUE(m.rename_layer(1, "Trees"));
+    ASSERT_TRUE(m.move_layer(1, 0));
+    EXPECT_EQ(names(m), (std::vector<std::string>{"Trees", "Tiles"}));
+    ASSERT_TRUE(m.remove_layer());
+    EXPECT_FALSE(m.remove_layer()) << "the only layer stays";
+    EXPECT_EQ(m.map().at(0, 0), 1);
+    const size_t steps = m.history().count();
+    m.show_layer(0, false);
+    EXPECT_EQ(m.history().count(), steps) << "showing and hiding are no steps";
+    m.show_layer(0, true);
+
+    ASSERT_TRUE(m.undo());
+    EXPECT_EQ(names(m), (std::vector<std::string>{"Trees", "Tiles"}));
+    EXPECT_EQ(m.current_layer(), 0);
+    EXPECT_EQ(m.map().at(2, 2), 5);
+    EXPECT_EQ(m.map().turn_at(2, 2), turn::flip_v);
+    ASSERT_TRUE(m.undo());
+    ASSERT_TRUE(m.undo());
+    EXPECT_EQ(names(m), (std::vector<std::string>{"Tiles", "Layer 2"}));
+    ASSERT_TRUE(m.undo());
+    EXPECT_EQ(m.layer(1).cells.at(2, 2), Tile_Map::empty);
+    ASSERT_TRUE(m.undo());
+    EXPECT_EQ(m.layer_count(), 1);
+    for (int i = 0; i < 5; ++i) ASSERT_TRUE(m.redo());
+    EXPECT_EQ(names(m), (std::vector<std::string>{"Tiles"}));
+    ASSERT_TRUE(m.undo());
+    EXPECT_EQ(m.layer(0).cells.at(2, 2), 5);
+    EXPECT_FALSE(m.is_saved());
+    // Layer names never repeat the default ones; a map has at most so many.
+    while (m.add_layer()) {
+    }
+    EXPECT_EQ(m.layer_count(), Map_Editor::most_layers);
+    const std::vector<std::string> all = names(m);
+    EXPECT_EQ(std::set<std::string>(all.begin(), all.end()).size(), all.size()) << "no two layers share a name";
 }
 }  // namespace
