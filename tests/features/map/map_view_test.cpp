@@ -210,3 +210,57 @@ TEST_F(MapViewTest, TheTerrainToolMarksCornersPaintsThemAndShowsWhatIsMissing) {
     EXPECT_EQ(image.at(4 * 24 + 12, 4 * 24 + 12), stone);
     EXPECT_EQ(image.at(5 * 24 + 12, 5 * 24 + 12).alpha, 0) << "a missing cell is empty in the image";
 }
+
+TEST_F(MapViewTest, TheLayerListAddsHidesRenamesAndTheMapShowsTheVisibleLayersTogether) {
+    Map_Editor& map = tileset().map();
+    map.place(0, 0, 0);
+    const Map_View view = probe();
+    const SDL_Point cell = centre(view.cell_area(0, 0));
+    const Rectangle stone_in_chooser{view.chooser().x + Map_View::chooser_cell, view.chooser().y, 32, 32};
+    auto double_click = [](SDL_Point at) {
+        for (const bool down : {true, false}) {
+            SDL_Event e{};
+            e.type = down ? SDL_EVENT_MOUSE_BUTTON_DOWN : SDL_EVENT_MOUSE_BUTTON_UP;
+            e.button.button = SDL_BUTTON_LEFT;
+            e.button.down = down;
+            e.button.clicks = 2;
+            e.button.x = float(at.x), e.button.y = float(at.y);
+            SDL_PushEvent(&e);
+        }
+    };
+    Event_Script script;
+    Color stone_on_top, with_top_hidden, after_undo;
+    script.then([&] {
+        push_click(view.button(Map_View::button_layer_add));
+        push_click(stone_in_chooser);
+        push_click(cell.x, cell.y);
+    });
+    script.then([&] {
+        stone_on_top = read_pixel(cell.x, cell.y);
+        // The new layer is the top row of the list.
+        push_click(centre(view.layer_eye(1)).x, centre(view.layer_eye(1)).y);
+    });
+    script.then([&] {
+        with_top_hidden = read_pixel(cell.x, cell.y);
+        double_click(centre(view.layer_row(1)));
+        for (int i = 0; i < 8; ++i) push_key(SDLK_BACKSPACE);
+        push_key(SDLK_R, SDL_KMOD_SHIFT);
+        for (const SDL_Keycode k : {SDLK_O, SDLK_C, SDLK_K, SDLK_P}) push_key(k);  // p types, not the pen tool
+        push_key(SDLK_RETURN);
+        push_click(view.button(Map_View::button_layer_lower));
+        push_click(view.button(Map_View::button_undo));
+    });
+    script.then([&] {
+        after_undo = read_pixel(cell.x, cell.y);
+        push_key(SDLK_ESCAPE);
+    });
+    g_editor->execute(command_map_editor);
+    EXPECT_FALSE(script.ran_out());
+    EXPECT_EQ(std::vector<Color>({stone_on_top, with_top_hidden, after_undo}),
+              std::vector<Color>({stone, grass, grass}));
+    ASSERT_EQ(map.layer_count(), 2);
+    EXPECT_EQ(map.layer(1).name, "Rockp") << "the lowering was undone, the renaming stays";
+    EXPECT_FALSE(map.layer(1).visible);
+    EXPECT_EQ(map.layer(1).cells.at(0, 0), 1);
+    EXPECT_EQ(map.layer(0).cells.at(0, 0), 0);
+}

@@ -3,6 +3,7 @@
 
 #include <gtest/gtest.h>
 
+#include "model/map/layer_stack.h"
 #include "model/tile/tile_store.h"
 #include "model/map/tile_map.h"
 
@@ -76,6 +77,22 @@ TEST(SeamCheck, PairsDifferByTheirWidestChannelAlphaIncludedButHiddenColourNever
     EXPECT_TRUE(Seam_Check().run(map, store).empty());
     map.set(0, 0, 1);
     EXPECT_EQ(Seam_Check().run(map, store).size(), 1u) << "the opaque right column against the clear left one";
+
+    // Layers drawn together: the clear column of the upper tile shows the
+    // lower one through it, and an opaque upper tile hides what lies below.
+    Tile_Map below(2, 1);
+    below.set(0, 0, 1), below.set(1, 0, 1);
+    Tile_Map above(2, 1);
+    above.set(1, 0, 1);
+    EXPECT_EQ(Seam_Check().run(Layer_Stack({&below, &above}, store), store).size(), 1u);
+    store.tile_at(0)->fill(Color(20, 20, 20));
+    above.set(0, 0, 0), above.set(1, 0, 0);
+    EXPECT_TRUE(Seam_Check().run(Layer_Stack({&below, &above}, store), store).empty());
+    // Two half-clear pixels: more seen than either, the upper one weighing more.
+    const Color both = composited(Color(200, 0, 0, 128), Color(0, 0, 200, 128));
+    EXPECT_NEAR(both.alpha, 128 + 128 * 127 / 255.0, 1);
+    EXPECT_GT(both.blue, both.red);
+    EXPECT_NEAR(both.red + both.blue, 200, 2);
 }
 
 }  // namespace
