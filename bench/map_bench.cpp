@@ -67,11 +67,20 @@ void paint_terrains(Tileset& t) {
 }
 
 // 0: nothing changed between repaints; 1: one cell painted before each;
-// 2: terrains everywhere with their marks, one corner painted before each.
+// 2: terrains everywhere with their marks, one corner painted before each;
+// 3: as 2 on the lowest of three full layers, all shown.
 void BM_map_view_repaint(benchmark::State& state) {
     Bench_Program program;
     Tileset& t = full_map(false);
-    if (state.range(0) == 2) paint_terrains(t);
+    if (state.range(0) >= 2) paint_terrains(t);
+    if (state.range(0) == 3) {
+        for (int layer = 1; layer <= 2; ++layer) {
+            t.map().add_layer();
+            for (int y = 0; y < 80; ++y)
+                for (int x = 0; x < 80; ++x) t.map().place(x, y, (x * layer + y) % tile_kinds);
+        }
+        t.map().choose_layer(0);
+    }
     Map_View view(t.map(), t.store(), "bench");
     press_key(view, SDLK_S);
     press_key(view, SDLK_G);
@@ -84,7 +93,7 @@ void BM_map_view_repaint(benchmark::State& state) {
             t.map().begin_stroke();
             t.map().paint(step % 80, (step / 80) % 80, step % tile_kinds);
             t.map().end_stroke();
-        } else if (state.range(0) == 2) {
+        } else if (state.range(0) >= 2) {
             ++step;
             t.map().begin_stroke();
             t.map().paint_terrain(step % 81, (step / 81) % 81, 1 + step % 2);
@@ -158,7 +167,7 @@ void BM_seam_check(benchmark::State& state) {
 BENCHMARK(BM_clear_and_present_beside_map)->Unit(benchmark::kMillisecond)->MinTime(0.5)->Repetitions(5)
     ->ReportAggregatesOnly(true);
 BENCHMARK(BM_map_view_repaint)->Unit(benchmark::kMillisecond)->MinTime(0.5)->Repetitions(5)
-    ->ReportAggregatesOnly(true)->Arg(0)->Arg(1)->Arg(2);
+    ->ReportAggregatesOnly(true)->Arg(0)->Arg(1)->Arg(2)->Arg(3);
 // 0: every edge a seam; 1: no seams, every pair compared whole.
 BENCHMARK(BM_terrain_drag)->Unit(benchmark::kMillisecond)->Iterations(6);
 BENCHMARK(BM_seam_check)->Unit(benchmark::kMillisecond)->MinTime(0.5)->Repetitions(5)

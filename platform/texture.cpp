@@ -1,5 +1,7 @@
 #include "platform/texture.h"
 
+#include <algorithm>
+
 #include "platform/draw_sink.h"
 #include "model/core/fatal.h"
 #include "platform/globals.h"
@@ -37,16 +39,21 @@ Texture* Texture::from_pixels(SDL_Renderer* renderer, const Color* pixels, int w
     return result;
 }
 
-void Texture::update(const Color* pixels) {
+void Texture::update(const Color* pixels) { update_rows(pixels, 0, height()); }
+
+void Texture::update_rows(const Color* pixels, int first, int count) {
+    const int w = width();
+    first = std::clamp(first, 0, height());
+    count = std::clamp(count, 0, height() - first);
+    if (count == 0) return;
+    const SDL_Rect rows{0, first, w, count};
     void* locked = nullptr;
     int pitch = 0;
-    if (!SDL_LockTexture(texture, nullptr, &locked, &pitch)) return;
-    const int w = width();
-    const int h = height();
+    if (!SDL_LockTexture(texture, &rows, &locked, &pitch)) return;
     // Rows are written at the texture's own pitch; the source is tightly packed.
-    for (int y = 0; y < h; ++y) {
+    for (int y = 0; y < count; ++y) {
         Uint8* out = static_cast<Uint8*>(locked) + y * pitch;
-        const Color* in = pixels + y * w;
+        const Color* in = pixels + size_t(first + y) * size_t(w);
         for (int x = 0; x < w; ++x) {
             out[0] = in[x].alpha;
             out[1] = in[x].blue;

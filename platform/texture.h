@@ -22,6 +22,8 @@ public:
     // Copies the colours into a streaming texture: each pixel's bytes go to
     // the RGBA8888 layout as alpha, blue, green, red.
     void update(const Color* pixels);
+    // The same for count rows from first only (the whole picture given).
+    void update_rows(const Color* pixels, int first, int count);
     void draw();
     // Part of the texture to a window rectangle, through the window's drawing path.
     void copy(const SDL_FRect& from, const SDL_FRect& to) const;

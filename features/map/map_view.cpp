@@ -49,7 +49,7 @@ Map_View::Map_View(Map_Editor& editor, const Tile_Store& store, const std::strin
                       Color());
     composed_cells.assign(size_t(editor.map().cell_count()), ~uint64_t(0));
     compose_chooser();
-    compose_map();
+    compose_picture();
 }
 
 Map_View::~Map_View() = default;

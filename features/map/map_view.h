@@ -107,7 +107,7 @@ private:
     void compose_map();
     void compose_chooser();
     void draw_buttons();
-    void draw_marks(const Rectangle& p);
+    void compose_picture();
     void draw_status();
     void draw_terrain();
     void terrain_press(float x, float y, Uint8 mouse_button);
@@ -139,10 +139,17 @@ private:
     // What each cell of the map picture shows (Layer_Stack::key).
     std::vector<uint64_t> composed_cells;
     std::vector<Color> map_pixels;
+    // The map with the grid, the seams and the missing cells marked on it:
+    // marked when they change, not at every repaint.
+    std::vector<Color> marked_pixels;
+    std::vector<Color> shown_pixels;
+    bool cells_composed = false;
+    uint64_t marked_generation = ~uint64_t(0);
+    bool marked_grid = false;
+    bool marked_seams = false;
     std::unique_ptr<Texture> map_image;
     std::unique_ptr<Texture> chooser_image;
     Seam_Check checker;
-    std::vector<Rectangle> marks;
     int terrain = 1;
     int brush_turn = 0;
     int last_corner_x = -1;

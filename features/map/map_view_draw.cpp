@@ -1,9 +1,10 @@
 // The map view's pictures and how it draws them. The map and the chooser are
-// composed into textures only when they change; the grid and the seam marks
-// go over the map as batches of fills, so a repaint costs a few draws
-// whatever the map holds.
+// composed into textures only when they change, the map with its grid, seam
+// and missing-cell marks on it, so a repaint costs a few draws whatever the
+// map holds.
 #include <algorithm>
 #include <cstdio>
+#include <cstring>
 
 #include "platform/globals.h"
 #include "platform/main_window.h"
@@ -72,13 +73,85 @@ void Map_View::compose_map() {
             }
         }
     }
-    if (!map_image) {
-        map_image.reset(Texture::from_pixels(g_main_window->renderer(), map_pixels.data(), std::max(stride, 1),
-                                             std::max(layers.rows() * ch, 1)));
-        map_image->set_opaque(true);
-    } else if (any) {
-        map_image->update(map_pixels.data());
+    cells_composed = cells_composed || any;
+}
+
+namespace {
+void fill_in(std::vector<Color>& pixels, int width, int height, const Rectangle& r, Color c) {
+    const int x0 = std::max(r.x, 0), x1 = std::min(r.x + r.width, width);
+    const int y0 = std::max(r.y, 0), y1 = std::min(r.y + r.height, height);
+    for (int y = y0; y < y1; ++y)
+        std::fill(pixels.begin() + std::ptrdiff_t(y) * width + x0, pixels.begin() + std::ptrdiff_t(y) * width + x1, c);
+}
+}  // namespace
+
+// The composed map with the grid's lines, the seams' marks and the missing
+// cells' marks (a frame, and the wanted terrains in the corners) drawn on.
+void Map_View::compose_picture() {
+    compose_map();
+    if (map_image && !cells_composed && marked_generation == editor.generation() && marked_grid == grid &&
+        marked_seams == seams)
+        return;
+    cells_composed = false;
+    marked_generation = editor.generation();
+    marked_grid = grid;
+    marked_seams = seams;
+    const Tile_Map& map = editor.map();
+    const int cw = int(store.tile_width()) * factor;
+    const int ch = int(store.tile_height()) * factor;
+    const int width = std::max(map.columns() * cw, 1);
+    const int height = std::max(map.rows() * ch, 1);
+    // Marked afresh beside the picture shown, so that only the rows that
+    // changed go to the texture.
+    std::swap(marked_pixels, shown_pixels);
+    marked_pixels = map_pixels;
+    auto fill = [&](const Rectangle& r, Color c) { fill_in(marked_pixels, width, height, r, c); };
+    if (grid) {
+        for (int x = 1; x < map.columns(); ++x) fill(Rectangle{x * cw, 0, 1, height}, grid_color);
+        for (int y = 1; y < map.rows(); ++y) fill(Rectangle{0, y * ch, width, 1}, grid_color);
     }
+    if (seams)
+        for (const Seam& s : seam_list())
+            fill(s.vertical ? Rectangle{(s.x + 1) * cw - seam_half_width, s.y * ch, 2 * seam_half_width, ch}
+                            : Rectangle{s.x * cw, (s.y + 1) * ch - seam_half_width, cw, 2 * seam_half_width},
+                 seam_color);
+    const Terrain_Set& set = editor.terrain();
+    const int mark = std::clamp(cw / 4, 3, 8);
+    auto outline = [&](const Rectangle& r, Color c) {
+        fill(Rectangle{r.x, r.y, r.width, 1}, c);
+        fill(Rectangle{r.x, r.y + r.height - 1, r.width, 1}, c);
+        fill(Rectangle{r.x, r.y + 1, 1, r.height - 2}, c);
+        fill(Rectangle{r.x + r.width - 1, r.y + 1, 1, r.height - 2}, c);
+    };
+    if (set.terrain_count() > 0)
+        for (const int cell : missing_cells()) {
+            const int cx = cell % map.columns(), cy = cell / map.columns();
+            const Rectangle r{cx * cw, cy * ch, cw, ch};
+            outline(r, missing_color);
+            const int xs[4] = {r.x + 1, r.x + r.width - 1 - mark, r.x + r.width - 1 - mark, r.x + 1};
+            const int ys[4] = {r.y + 1, r.y + 1, r.y + r.height - 1 - mark, r.y + r.height - 1 - mark};
+            const Terrain_Set::Corners c = editor.wanted(cx, cy);
+            for (int k = 0; k < 4; ++k) {
+                const int t = c[size_t(k)];
+                if (t < 1 || t > set.terrain_count()) continue;
+                const Rectangle square{xs[k], ys[k], mark, mark};
+                fill(square, set.terrains[size_t(t - 1)].color);
+                outline(square, mark_frame);
+            }
+        }
+    if (!map_image || shown_pixels.size() != marked_pixels.size()) {
+        map_image.reset(Texture::from_pixels(g_main_window->renderer(), marked_pixels.data(), width, height));
+        map_image->set_opaque(true);
+        return;
+    }
+    auto row_differs = [&](int y) {
+        const size_t at = size_t(y) * size_t(width);
+        return std::memcmp(marked_pixels.data() + at, shown_pixels.data() + at, size_t(width) * sizeof(Color)) != 0;
+    };
+    int first = 0, last = height - 1;
+    while (first < height && !row_differs(first)) ++first;
+    while (last > first && !row_differs(last)) --last;
+    map_image->update_rows(marked_pixels.data(), first, last - first + 1);
 }
 
 // Each tile fitted into its cell: small tiles magnified by a whole factor,
@@ -111,12 +184,15 @@ void Map_View::compose_chooser() {
 void Map_View::draw() {
     Main_Window& w = *g_main_window;
     pane.draw();
-    compose_map();
+    compose_picture();
     const Rectangle p = picture();
     map_image->draw_at(p.x, p.y);
-    draw_marks(p);
     const Rectangle c = chooser();
-    chooser_image->draw_at(c.x, c.y);
+    // Only the rows that hold tiles: the rest is the pane's own colour.
+    const int used = std::min(chooser_size, (store.tile_count() + chooser_columns - 1) / chooser_columns * chooser_cell);
+    if (used > 0)
+        chooser_image->copy(SDL_FRect{0, 0, float(chooser_size), float(used)},
+                            SDL_FRect{float(c.x), float(c.y), float(chooser_size), float(used)});
     w.frame(Rectangle{p.x - 1, p.y - 1, p.width + 2, p.height + 2}, pane_frame_color);
     w.frame(Rectangle{c.x - 1, c.y - 1, c.width + 2, c.height + 2}, pane_frame_color);
     auto cell_of = [&](int index) {
@@ -153,47 +229,12 @@ static void draw_corners(const Rectangle& r, const Terrain_Set& set, const Terra
     }
 }
 
-// The terrain marks: cells whose combination has no tile, the chooser's
-// corners (with the terrain tool), the terrains and the missing combinations.
+// The terrain marks beside the map: the chooser's corners (with the terrain
+// tool), the terrains and the missing combinations.
 void Map_View::draw_terrain() {
     Main_Window& w = *g_main_window;
     const Terrain_Set& set = editor.terrain();
     if (set.terrain_count() == 0) return;
-    // The missing cells' marks in a few batches: the frames, each terrain's
-    // corner squares, their dark edges.
-    const Tile_Map& map = editor.map();
-    const int mark = std::clamp(int(store.tile_width()) * factor / 4, 3, 8);
-    auto outline = [this](const Rectangle& r) {
-        marks.push_back(Rectangle{r.x, r.y, r.width, 1});
-        marks.push_back(Rectangle{r.x, r.y + r.height - 1, r.width, 1});
-        marks.push_back(Rectangle{r.x, r.y + 1, 1, r.height - 2});
-        marks.push_back(Rectangle{r.x + r.width - 1, r.y + 1, 1, r.height - 2});
-    };
-    auto each_square = [&](auto&& visit) {
-        for (const int cell : missing_cells()) {
-            const int cx = cell % map.columns(), cy = cell / map.columns();
-            const Rectangle r = cell_area(cx, cy);
-            const int xs[4] = {r.x + 1, r.x + r.width - 1 - mark, r.x + r.width - 1 - mark, r.x + 1};
-            const int ys[4] = {r.y + 1, r.y + 1, r.y + r.height - 1 - mark, r.y + r.height - 1 - mark};
-            const Terrain_Set::Corners c = editor.wanted(cx, cy);
-            for (int k = 0; k < 4; ++k) visit(int(c[size_t(k)]), Rectangle{xs[k], ys[k], mark, mark});
-        }
-    };
-    marks.clear();
-    for (const int cell : missing_cells()) outline(cell_area(cell % map.columns(), cell / map.columns()));
-    w.fill_opaque(marks.data(), int(marks.size()), missing_color);
-    for (int k = 1; k <= set.terrain_count(); ++k) {
-        marks.clear();
-        each_square([&](int terrain_at, const Rectangle& square) {
-            if (terrain_at == k) marks.push_back(square);
-        });
-        w.fill_opaque(marks.data(), int(marks.size()), set.terrains[size_t(k - 1)].color);
-    }
-    marks.clear();
-    each_square([&](int terrain_at, const Rectangle& square) {
-        if (terrain_at >= 1 && terrain_at <= set.terrain_count()) outline(square);
-    });
-    w.fill_opaque(marks.data(), int(marks.size()), mark_frame);
     const Rectangle c = chooser();
     Text_Writer& t = w.writer(font_regular);
     char text[64];
@@ -228,32 +269,6 @@ void Map_View::draw_terrain() {
         const Rectangle d{x, m.y + (m.height - 2 * half) / 2, 2 * half, 2 * half};
         draw_corners(d, set, k, half);
         x += 2 * half + 4;
-    }
-}
-
-// The grid's lines and the seams' marks, each as one batch of fills.
-void Map_View::draw_marks(const Rectangle& p) {
-    Main_Window& w = *g_main_window;
-    const Tile_Map& map = editor.map();
-    const int cw = int(store.tile_width()) * factor;
-    const int ch = int(store.tile_height()) * factor;
-    if (grid) {
-        marks.clear();
-        for (int x = 1; x < map.columns(); ++x) marks.push_back(Rectangle{p.x + x * cw, p.y, 1, p.height});
-        for (int y = 1; y < map.rows(); ++y) marks.push_back(Rectangle{p.x, p.y + y * ch, p.width, 1});
-        w.fill_opaque(marks.data(), int(marks.size()), grid_color);
-    }
-    if (seams) {
-        marks.clear();
-        for (const Seam& s : seam_list()) {
-            if (s.vertical)
-                marks.push_back(Rectangle{p.x + (s.x + 1) * cw - seam_half_width, p.y + s.y * ch,
-                                          2 * seam_half_width, ch});
-            else
-                marks.push_back(Rectangle{p.x + s.x * cw, p.y + (s.y + 1) * ch - seam_half_width, cw,
-                                          2 * seam_half_width});
-        }
-        w.fill_opaque(marks.data(), int(marks.size()), seam_color);
     }
 }
 

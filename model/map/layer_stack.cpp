@@ -18,8 +18,10 @@ std::vector<const Tile_Map*> visible_layers(const Map_Editor& editor) {
 
 Layer_Stack::Layer_Stack(std::vector<const Tile_Map*> layers, const Tile_Store& store, const Tile* live,
                          int live_index)
-    : maps(std::move(layers)), tiles(store), live_tile(live), live_at(live ? live_index : -2) {
+    : maps(std::move(layers)), live_tile(live), live_at(live ? live_index : -2) {
+    for (const auto& tile : store.all()) tile_list.push_back(tile.get());
     if (maps.size() > size_t(most)) maps.resize(size_t(most));
+    opaque.assign(tile_list.size(), int8_t(-1));
     for (const Tile_Map* m : maps) {
         width = std::max(width, m->columns());
         height = std::max(height, m->rows());
@@ -32,14 +34,24 @@ Layer_Stack::Layer_Stack(const Map_Editor& editor, const Tile_Store& store, cons
     height = editor.map().rows();
 }
 
+bool Layer_Stack::is_opaque(int index, const Tile* tile) const {
+    int8_t& known = tile == live_tile ? live_opaque : opaque[size_t(index)];
+    if (known < 0) {
+        const Color* p = tile->pixels();
+        known = int8_t(std::all_of(p, p + tile->pixel_count(), [](Color c) { return c.alpha == 255; }));
+    }
+    return known == 1;
+}
+
 void Layer_Stack::at(int x, int y, Cell& out) const {
     out.count = 0;
     for (const Tile_Map* m : maps) {
         const int index = m->at(x, y);
-        const Tile* tile = index == live_at ? live_tile
-                           : index >= 0 && index < tiles.tile_count() ? tiles.tile_at(index)
-                                                                       : nullptr;
+        const Tile* tile = index == live_at                           ? live_tile
+                           : index >= 0 && index < int(tile_list.size()) ? tile_list[size_t(index)]
+                                                                         : nullptr;
         if (!tile) continue;
+        if (is_opaque(index, tile)) out.count = 0;
         out.tiles[out.count] = tile;
         out.indices[out.count] = index;
         out.turns[out.count] = uint8_t(m->turn_at(x, y));
@@ -56,7 +68,7 @@ uint64_t Layer_Stack::key(int cell) const {
     uint64_t k = 0;
     for (const Tile_Map* m : maps) {
         const int index = m->at(x, y);
-        if (index < 0 || index >= tiles.tile_count()) continue;
+        if (index < 0 || index >= int(tile_list.size())) continue;
         // Mixed in layer by layer, so the order counts.
         k = (k ^ uint64_t(index * 8 + m->turn_at(x, y) + 1)) * 0x100000001b3ull;
         k ^= k >> 29;

@@ -34,8 +34,9 @@ public:
     int columns() const { return width; }
     int rows() const { return height; }
     bool is_outside(int x, int y) const { return x < 0 || y < 0 || x >= width || y >= height; }
-    // The tiles the cell shows (none outside the map); indices past the
-    // store's tiles show nothing.
+    // The tiles the cell shows (none outside the map), from the topmost
+    // opaque one up: what lies under a tile with no clear pixel is not seen.
+    // Indices past the store's tiles show nothing.
     void at(int x, int y, Cell& out) const;
     // Whether the cell holds the tile in a visible layer.
     bool holds(int cell, int tile) const;
@@ -46,8 +47,14 @@ public:
     static Color pixel(const Cell& cell, int x, int y);
 
 private:
+    bool is_opaque(int index, const Tile* tile) const;
+
     std::vector<const Tile_Map*> maps;
-    const Tile_Store& tiles;
+    // The store's tiles by index: looked up once, not per cell.
+    std::vector<const Tile*> tile_list;
+    // Per tile index: -1 not looked at yet, 0 has a clear pixel, 1 opaque.
+    mutable std::vector<int8_t> opaque;
+    mutable int8_t live_opaque = -1;
     const Tile* live_tile;
     int live_at;
     int width = 0;

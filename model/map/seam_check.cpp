@@ -55,15 +55,21 @@ const std::vector<Seam>& Seam_Check::run(const Layer_Stack& layers, const Tile_S
         const bool plain = a.count == 1 && b.count == 1 && a.turns[0] == turn::none && b.turns[0] == turn::none;
         return plain ? meets(vertical, a.tiles[0], a.indices[0], b.tiles[0], b.indices[0]) : seen_meet(vertical, a, b);
     };
-    Layer_Stack::Cell here, right, below;
-    for (int y = 0; y < layers.rows(); ++y)
-        for (int x = 0; x < layers.columns(); ++x) {
-            layers.at(x, y, here);
+    // Each cell gathered once: the row and the row below it.
+    const int columns = layers.columns();
+    rows[0].resize(size_t(columns) + 1);
+    rows[1].resize(size_t(columns) + 1);
+    for (int x = 0; x <= columns; ++x) layers.at(x, 0, rows[0][size_t(x)]);
+    for (int y = 0; y < layers.rows(); ++y) {
+        std::vector<Layer_Stack::Cell>& row = rows[size_t(y % 2)];
+        std::vector<Layer_Stack::Cell>& next = rows[size_t((y + 1) % 2)];
+        for (int x = 0; x <= columns; ++x) layers.at(x, y + 1, next[size_t(x)]);
+        for (int x = 0; x < columns; ++x) {
+            const Layer_Stack::Cell& here = row[size_t(x)];
             if (here.count == 0) continue;
-            layers.at(x + 1, y, right);
-            layers.at(x, y + 1, below);
-            if (right.count > 0 && !joins(true, here, right)) found.push_back(Seam{x, y, true});
-            if (below.count > 0 && !joins(false, here, below)) found.push_back(Seam{x, y, false});
+            if (row[size_t(x) + 1].count > 0 && !joins(true, here, row[size_t(x) + 1])) found.push_back(Seam{x, y, true});
+            if (next[size_t(x)].count > 0 && !joins(false, here, next[size_t(x)])) found.push_back(Seam{x, y, false});
         }
+    }
     return found;
 }

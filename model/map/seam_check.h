@@ -4,8 +4,8 @@
 #include <vector>
 
 #include "model/color/color.h"
+#include "model/map/layer_stack.h"
 
-class Layer_Stack;
 class Tile_Map;
 class Tile_Store;
 
@@ -46,5 +46,7 @@ private:
 
     int limit;
     std::vector<Seam> found;
+    // What two rows of cells show, kept between checks.
+    std::vector<Layer_Stack::Cell> rows[2];
     std::vector<uint8_t> pairs;
 };
