@@ -350,6 +350,7 @@ void Map_View::push_button(int which) {
         case button_layer_rename:
             renaming = editor.current_layer();
             typed_name = editor.layer(renaming).name;
+            name_selected = true;
             break;
         default: break;
     }

@@ -158,6 +158,8 @@ private:
     std::vector<int> missing;
     int renaming = -1;
     std::string typed_name;
+    // The name shown is the old one, selected: the first key typed replaces it.
+    bool name_selected = false;
 };
 
 // The view run on a tileset's map; what the user chose and whether the map changed.

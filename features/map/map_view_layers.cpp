@@ -19,6 +19,7 @@ constexpr Color eye_frame = ui_colors[ui_black];
 constexpr Color eye_face = ui_colors[ui_white];
 constexpr Color eye_shown = ui_colors[ui_black];
 constexpr Color typing_frame = ui_colors[ui_white];
+constexpr Color selected_name = ui_colors[ui_cyan];
 
 // The character a key types into a layer's name, or 0.
 char typed_char(const SDL_KeyboardEvent& key) {
@@ -62,6 +63,7 @@ bool Map_View::layer_press(float x, float y, Uint8 mouse_button, int clicks) {
         if (clicks >= 2) {
             renaming = i;
             typed_name = editor.layer(i).name;
+            name_selected = true;
         }
         return true;
     }
@@ -76,7 +78,10 @@ void Map_View::type_name(const SDL_KeyboardEvent& key) {
         renaming = -1;
     } else if (key.key == SDLK_BACKSPACE) {
         if (!typed_name.empty()) typed_name.pop_back();
-    } else if (const char c = typed_char(key); c && typed_name.size() < longest_name) {
+        name_selected = false;
+    } else if (const char c = typed_char(key); c && (name_selected || typed_name.size() < longest_name)) {
+        if (name_selected) typed_name.clear();
+        name_selected = false;
         typed_name += c;
     }
 }
@@ -112,6 +117,9 @@ void Map_View::draw_layers() {
         };
         for (fill(); length > 0 && t.measure(name) > room; fill()) typing ? ++from, --length : --length;
         if (typing) w.frame(r, typing_frame);
+        if (typing && name_selected)
+            w.fill_opaque(Rectangle{eye.x + eye.width + 5, r.y + 3, std::min(t.measure(name), room) + 2, r.height - 6},
+                          selected_name);
         t.write_at(eye.x + eye.width + 6, r.y + (r.height - t.line_height()) / 2, name);
     }
 }

@@ -243,8 +243,7 @@ TEST_F(MapViewTest, TheLayerListAddsHidesRenamesAndTheMapShowsTheVisibleLayersTo
     script.then([&] {
         with_top_hidden = read_pixel(cell.x, cell.y);
         double_click(centre(view.layer_row(1)));
-        for (int i = 0; i < 8; ++i) push_key(SDLK_BACKSPACE);
-        push_key(SDLK_R, SDL_KMOD_SHIFT);
+        push_key(SDLK_R, SDL_KMOD_SHIFT);  // replaces the name shown
         for (const SDL_Keycode k : {SDLK_O, SDLK_C, SDLK_K, SDLK_P}) push_key(k);  // p types, not the pen tool
         push_key(SDLK_RETURN);
         push_click(view.button(Map_View::button_layer_lower));
