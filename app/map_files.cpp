@@ -39,7 +39,7 @@ bool save_map(Tileset& tileset) {
     const bool own = map.own_file == path;
     // Nothing to keep, and no file of the user's is touched: a blank map
     // writes nothing, and no map file is ever removed.
-    if (map.is_blank() && !own) {
+    if (map.holds_nothing() && !own) {
         map.mark_saved();
         return true;
     }

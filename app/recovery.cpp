@@ -65,7 +65,7 @@ void save_open_work() {
             shown = g_editor->canvas().tile_as_shown();
         Tileset_File::write(t.store(), path, shown.get());
         // The map beside it, with its sheet, so that loading the copy brings the map too.
-        if (!t.map().is_blank()) {
+        if (!t.map().holds_nothing()) {
             const Tile_Store& store = t.store();
             Image sheet(16 * store.tile_width(), 16 * store.tile_height());
             compose_sheet(store, sheet);

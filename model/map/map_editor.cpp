@@ -29,8 +29,10 @@ Map_Editor::Map_Editor(uint32_t tile_width, uint32_t tile_height)
         std::make_shared<Map_Layer>(first_layer_name, cells_for(tile_width), cells_for(tile_height), 1));
 }
 
-bool Map_Editor::is_blank() const {
-    return std::all_of(layer_list.begin(), layer_list.end(), [](const auto& l) { return l->cells.is_blank(); });
+bool Map_Editor::holds_nothing() const {
+    const Map_Layer& only = *layer_list.front();
+    return layer_list.size() == 1 && only.cells.is_blank() && only.visible && only.name == first_layer_name &&
+           terrains.is_empty();
 }
 
 void Map_Editor::record_layers(Map_Edit edit) {

@@ -31,8 +31,9 @@ public:
     int layer_count() const { return int(layer_list.size()); }
     const Map_Layer& layer(int index) const { return *layer_list[size_t(index)]; }
     int current_layer() const { return current; }
-    // Whether no layer holds a tile.
-    bool is_blank() const;
+    // Whether a map file would keep nothing of it: one shown layer of the
+    // first name without a tile, and no terrain.
+    bool holds_nothing() const;
 
     // Each a step to undo but choosing and showing. A new layer goes above
     // the current one and becomes current; the only layer is never removed.

@@ -1,7 +1,7 @@
 // A property checker: seeded random sequences of what changes a document
 // (pen dabs, every tile-list command, selections lifted, moved, cloned and
-// put down, copy and paste, arrange swaps, map strokes, tab switches, saves
-// and loads) with undo and redo interleaved, through the real editor. After
+// put down, copy and paste, arrange swaps, map strokes, terrains and
+// layers, tab switches, saves and loads) with undo and redo interleaved, through the real editor. After
 // each step it checks that
 // - every undo and redo gives back exactly the state the user saw when that
 //   step was current (tiles as drawn, their order, the map's cells), map
@@ -32,34 +32,40 @@
 namespace {
 
 // What the user sees of a tileset: each tile as drawn (the current one with
-// its floating image put down and without a seam offset), and the map.
+// its floating image put down and without a seam offset), and the map's
+// layers with their cells (whether a layer is shown is a look, not an edit).
 struct Seen {
     std::vector<std::vector<uint32_t>> tiles;
     std::vector<int> cells;
+    std::vector<std::string> layers;
     bool operator==(const Seen&) const = default;
 };
 
 // The tiles of a store, the current one replaced by what is shown of it, and a map.
-Seen seen_of(const Tile_Store& store, const Tile* shown, const Tile_Map& map) {
+Seen seen_of(const Tile_Store& store, const Tile* shown, const Map_Editor& map_editor) {
     Seen s;
     for (int i = 0; i < store.tile_count(); ++i) {
         const Tile* tile = shown && i == store.current_index() ? shown : store.tile_at(i);
         s.tiles.emplace_back();
         for (int p = 0; p < tile->pixel_count(); ++p) s.tiles.back().push_back(tile->pixels()[p].word());
     }
-    for (int c = 0; c < map.cell_count(); ++c) s.cells.push_back(map.at(c) < 0 ? -1 : map.at(c) * 8 + map.turn_at(c));
+    for (int l = 0; l < map_editor.layer_count(); ++l) {
+        const Tile_Map& map = map_editor.layer(l).cells;
+        s.layers.push_back(map_editor.layer(l).name);
+        for (int c = 0; c < map.cell_count(); ++c) s.cells.push_back(map.at(c) < 0 ? -1 : map.at(c) * 8 + map.turn_at(c));
+    }
     return s;
 }
 
 Seen seen(Tileset& t) {
     const std::unique_ptr<Tile> shown = g_editor->current() == &t ? g_editor->canvas().tile_as_shown() : nullptr;
-    return seen_of(t.store(), shown.get(), t.map().map());
+    return seen_of(t.store(), shown.get(), t.map());
 }
 
 std::string describe(const Seen& a, const Seen& b) {
     std::ostringstream out;
     out << "tiles " << a.tiles.size() << " vs " << b.tiles.size() << (a.tiles == b.tiles ? "" : ", tiles differ")
-        << (a.cells == b.cells ? "" : ", cells differ");
+        << (a.cells == b.cells ? "" : ", cells differ") << (a.layers == b.layers ? "" : ", layers differ");
     return out.str();
 }
 
@@ -149,6 +155,20 @@ protected:
         map.end_stroke();
     }
 
+    // A change of the map's layers, or a layer chosen, shown or hidden.
+    void layer_step() {
+        Map_Editor& map = current().map();
+        const int n = map.layer_count();
+        switch (pick(6)) {
+            case 0: map.add_layer(); break;
+            case 1: map.remove_layer(); break;
+            case 2: map.rename_layer(pick(n), "L" + std::to_string(pick(50))); break;
+            case 3: map.move_layer(pick(n), pick(n)); break;
+            case 4: map.choose_layer(pick(n)); break;
+            default: map.show_layer(pick(n), pick(2) == 0); break;
+        }
+    }
+
     void select_rectangle() {
         run(command_rectangle_selector);
         drag(random_cell(), random_cell());
@@ -206,7 +226,7 @@ protected:
         ASSERT_NE(back, nullptr) << log();
         Map_Editor map(back->tile_width(), back->tile_height());
         Map_File::read(Map_File::map_path(path), map, back->tile_width(), back->tile_height(), back->tile_count());
-        const Seen read = seen_of(*back, nullptr, map.map());
+        const Seen read = seen_of(*back, nullptr, map);
         ASSERT_TRUE(read == before) << "the saved file: " << describe(read, before) << "\n" << log();
     }
 
@@ -354,6 +374,7 @@ TEST_F(Checker, UndoRedoSaveAndLoadGiveBackWhatTheUserSaw) {
         {"selection mode", 1, [&] { g_tool_options->set_selection_mode(pick(3)); }},
         {"map stroke", 4, [&] { map_stroke(); }},
         {"terrain", 3, [&] { terrain_step(); }},
+        {"layer", 3, [&] { layer_step(); }},
         {"arrange swap", 1, [&] { arrange_swap(); }},
         {"tab", 2, [&] { switch_tab(); }},
         {"save and load", 1, [&] { save_and_load(*track); }},
