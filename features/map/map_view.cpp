@@ -238,7 +238,7 @@ void Map_View::paint_terrain_at(float x, float y) {
 }
 
 // In the chooser a quarter of a tile is its corner; in the strip a swatch
-// chooses a terrain and "+" adds one.
+// chooses a terrain (the right button takes it away) and "+" adds one.
 void Map_View::terrain_press(float x, float y, Uint8 mouse_button) {
     Terrain_Set set = editor.terrain();
     const int tile = chooser_hit(x, y);
@@ -254,9 +254,16 @@ void Map_View::terrain_press(float x, float y, Uint8 mouse_button) {
         editor.set_terrain(set);
         return;
     }
+    for (int t = 1; t <= set.terrain_count(); ++t) {
+        if (!terrain_swatch(t).contains(x, y)) continue;
+        // The right button takes the terrain away (one step to undo).
+        if (mouse_button == SDL_BUTTON_RIGHT && editor.remove_terrain(t))
+            terrain = std::clamp(terrain > t ? terrain - 1 : terrain, 1, std::max(editor.terrain().terrain_count(), 1));
+        else if (mouse_button == SDL_BUTTON_LEFT)
+            terrain = t;
+        return;
+    }
     if (mouse_button != SDL_BUTTON_LEFT) return;
-    for (int t = 1; t <= set.terrain_count(); ++t)
-        if (terrain_swatch(t).contains(x, y)) terrain = t;
     if (terrain_swatch(set.terrain_count() + 1).contains(x, y) && set.add_terrain()) {
         terrain = set.terrain_count();
         editor.set_terrain(set);
@@ -341,8 +348,11 @@ void Map_View::push_button(int which) {
         case button_image:
             if (save_image) save_image(::map_image(editor, store));
             break;
-        case button_undo: editor.undo(); break;
-        case button_redo: editor.redo(); break;
+        case button_undo:
+        case button_redo:
+            which == button_undo ? editor.undo() : editor.redo();
+            terrain = std::clamp(terrain, 1, std::max(editor.terrain().terrain_count(), 1));
+            break;
         case button_layer_add: editor.add_layer(); break;
         case button_layer_remove: editor.remove_layer(); break;
         case button_layer_raise: editor.move_layer(editor.current_layer(), editor.current_layer() + 1); break;

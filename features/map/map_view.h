@@ -23,8 +23,9 @@ class Tile_Store;
 // The terrain tool paints the chosen terrain at the corner nearest the
 // pointer; with it, a click on a quarter of a tile in the chooser marks that
 // corner of the tile with the terrain (the right button clears it), and the
-// strip under the chooser chooses and adds terrains and shows the corner
-// combinations that have no tile yet, which the map marks where they are wanted.
+// strip under the chooser chooses, adds and (right button) removes terrains
+// and shows the corner combinations that have no tile yet, which the map
+// marks where they are wanted.
 // The column on the right lists the layers, top first: a click chooses the
 // layer painted in, its box shows or hides it, a double click (or "Rename")
 // renames it in place, and the buttons under the list add, delete, raise and

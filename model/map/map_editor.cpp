@@ -208,19 +208,38 @@ void Map_Editor::paint_terrain(int corner_x, int corner_y, int terrain) {
         }
 }
 
-bool Map_Editor::set_terrain(const Terrain_Set& set) {
+bool Map_Editor::set_terrain(const Terrain_Set& set) { return change_terrain(set, 0); }
+
+bool Map_Editor::remove_terrain(int terrain) {
+    if (terrain < 1 || terrain > terrains.terrain_count()) return false;
+    Terrain_Set set = terrains;
+    set.remove_terrain(terrain);
+    return change_terrain(set, terrain);
+}
+
+// The set changed as one step: corners painted with a removed terrain become
+// empty and those above it move down, and empty cells whose combination now
+// has a tile get it.
+bool Map_Editor::change_terrain(const Terrain_Set& set, int removed) {
     end_stroke();
+    if (set == terrains) return false;
+    begin_stroke();
+    open_edit.terrain_before = std::make_shared<Terrain_Set>(terrains);
+    open_edit.terrain_after = std::make_shared<Terrain_Set>(set);
     terrains = set;
     ++changes;
     count_edit();  // the set is kept in the map file
-    begin_stroke();
+    if (removed > 0)
+        for (int c = 0; c < corners.cell_count(); ++c)
+            if (const int t = corners.at(c); t >= removed) set_corner(c, t == removed ? 0 : t - 1);
     for (int y = 0; y < live().rows(); ++y)
         for (int x = 0; x < live().columns(); ++x) {
             const Terrain_Set::Corners w = wanted(x, y);
             if (live().at(x, y) == Tile_Map::empty && terrains.complete(w))
                 set_cell(y * live().columns() + x, terrains.tile_for(w, x, y), turn::none);
         }
-    return end_stroke();
+    end_stroke();
+    return true;
 }
 
 // The layers from the bottom up: a tile of the set on a higher layer has the
@@ -288,7 +307,7 @@ bool Map_Editor::fill(int x, int y, int tile, int turn) {
 
 bool Map_Editor::undo() {
     end_stroke();
-    if (!steps.undo(layer_list, corners, current)) return false;
+    if (!steps.undo(layer_list, corners, terrains, current)) return false;
     ++changes;
     count_edit();
     return true;
@@ -296,7 +315,7 @@ bool Map_Editor::undo() {
 
 bool Map_Editor::redo() {
     end_stroke();
-    if (!steps.redo(layer_list, corners, current)) return false;
+    if (!steps.redo(layer_list, corners, terrains, current)) return false;
     ++changes;
     count_edit();
     return true;

@@ -89,9 +89,12 @@ public:
     // A cell whose four corners were painted but whose combination has no tile.
     bool is_missing(int x, int y) const;
     // The set's tiles change (corners marked on a tile, terrains added or
-    // taken away): cells left empty for a combination that now has a tile
-    // get it, as one step to undo. True when a cell changed.
+    // taken away), as one step to undo: cells left empty for a combination
+    // that now has a tile get it. False when the set is the same.
     bool set_terrain(const Terrain_Set& set);
+    // The terrain leaves the set and the map's corners, as one step; the
+    // terrains above it move down. False when there is no such terrain.
+    bool remove_terrain(int terrain);
     // The set as a map file keeps it, placed without history; the corners of
     // cells holding tiles of the set take those tiles' terrains.
     void place_terrain(const Terrain_Set& set);
@@ -134,6 +137,7 @@ private:
     void count_edit();
 
     void set_corner(int corner, int terrain);
+    bool change_terrain(const Terrain_Set& set, int removed);
 
     Map_Layers layer_list;
     int current = 0;

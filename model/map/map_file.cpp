@@ -217,7 +217,12 @@ bool reads_back(const std::string& text, const std::vector<Written_Layer>& writt
     for (const Written_Layer& w : written) {
         const XMLElement* layer = check.RootElement()->FirstChildElement("layer");
         while (layer && layer->IntAttribute("id", -1) != w.id) layer = layer->NextSiblingElement("layer");
-        const XMLElement* data = layer ? layer->FirstChildElement("data") : nullptr;
+        // Read as a reader sizes it: a tag the text edit misread shows here.
+        const XMLElement* root = check.RootElement();
+        if (!layer || layer->IntAttribute("width", root->IntAttribute("width", 0)) != w.columns ||
+            layer->IntAttribute("height", root->IntAttribute("height", 0)) != w.rows)
+            return false;
+        const XMLElement* data = layer->FirstChildElement("data");
         const char* cells = data ? data->GetText() : nullptr;
         layer_data::Encoding encoding;
         if (!cells || !layer_data::encoding_of(data->Attribute("encoding") ? data->Attribute("encoding") : "",
@@ -256,15 +261,23 @@ std::string edited(const std::string& source, const Map_Editor& map, uint32_t ti
     if (const XMLElement* tileset = root_element->FirstChildElement("tileset"))
         tileset->QueryIntAttribute("firstgid", &first_gid);
 
+    // The layers where the text has them, and their ids as the reader saw
+    // them: a file on which the two disagree is no file to edit.
     std::vector<map_text::Element> elements;
-    std::vector<std::string> file_ids;
     for (size_t from = root.tag_end;;) {
         const map_text::Element e = map_text::child(source, from, root.content_end, "layer");
         if (!e.found) break;
         elements.push_back(e);
-        file_ids.push_back(map_text::attribute(source.substr(e.tag_begin, e.tag_end - e.tag_begin), "id"));
         from = e.end;
     }
+    std::vector<std::string> file_ids;
+    for (const XMLElement* l = root_element->FirstChildElement("layer"); l; l = l->NextSiblingElement("layer"))
+        file_ids.push_back(l->Attribute("id") ? l->Attribute("id") : "");
+    if (file_ids.size() != elements.size()) return {};
+    for (size_t j = 0; j < elements.size(); ++j)
+        if (map_text::attribute(source.substr(elements[j].tag_begin, elements[j].tag_end - elements[j].tag_begin), "id") !=
+            file_ids[j])
+            return {};
     const std::vector<int> keys = gid::layer_keys(file_ids);
     // The element each layer was read from, if the file still has it.
     const int count = map.layer_count();

@@ -46,7 +46,8 @@ void apply_layers(const Map_Edit& e, Map_Layers& layers, bool forward, int& curr
 }  // namespace
 
 void Map_History::record(Map_Edit edit) {
-    if (edit.cells.empty() && edit.corners.empty() && edit.change == Map_Edit::Layers::none) return;
+    if (edit.cells.empty() && edit.corners.empty() && edit.change == Map_Edit::Layers::none && !edit.terrain_before)
+        return;
     for (const Map_Edit& e : undone) kept_cells -= weight(e);
     undone.clear();
     kept_cells += weight(edit);
@@ -58,7 +59,7 @@ void Map_History::record(Map_Edit edit) {
     done.erase(done.begin(), done.begin() + std::ptrdiff_t(dropped));
 }
 
-bool Map_History::undo(Map_Layers& layers, Tile_Map& corners, int& current) {
+bool Map_History::undo(Map_Layers& layers, Tile_Map& corners, Terrain_Set& terrain, int& current) {
     if (done.empty()) return false;
     const Map_Edit& edit = done.back();
     if (edit.change != Map_Edit::Layers::none) {
@@ -70,12 +71,13 @@ bool Map_History::undo(Map_Layers& layers, Tile_Map& corners, int& current) {
         current = edit.layer;
     }
     for (auto it = edit.corners.rbegin(); it != edit.corners.rend(); ++it) corners.put(it->cell, it->before);
+    if (edit.terrain_before) terrain = *edit.terrain_before;
     undone.push_back(std::move(done.back()));
     done.pop_back();
     return true;
 }
 
-bool Map_History::redo(Map_Layers& layers, Tile_Map& corners, int& current) {
+bool Map_History::redo(Map_Layers& layers, Tile_Map& corners, Terrain_Set& terrain, int& current) {
     if (undone.empty()) return false;
     const Map_Edit& edit = undone.back();
     if (edit.change != Map_Edit::Layers::none) {
@@ -86,6 +88,7 @@ bool Map_History::redo(Map_Layers& layers, Tile_Map& corners, int& current) {
         current = edit.layer;
     }
     for (const Map_Edit::Cell& c : edit.corners) corners.put(c.cell, c.after);
+    if (edit.terrain_after) terrain = *edit.terrain_after;
     done.push_back(std::move(undone.back()));
     undone.pop_back();
     return true;

@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "model/map/map_layer.h"
+#include "model/map/terrain_set.h"
 
 using Map_Layers = std::vector<std::shared_ptr<Map_Layer>>;
 
@@ -34,6 +35,10 @@ struct Map_Edit {
     int moved_to = 0;
     std::string name_before;
     std::string name_after;
+    // The terrain set before and after, when the step changed it (copies of
+    // their own: the history makes each follow the tile list).
+    std::shared_ptr<Terrain_Set> terrain_before;
+    std::shared_ptr<Terrain_Set> terrain_after;
 };
 
 // The map's own undo and redo, apart from the tileset's history: map edits
@@ -51,8 +56,8 @@ public:
     void record(Map_Edit edit);
     // The layer the step was in (or the layer it added, removed, moved or
     // renamed) becomes the current one.
-    bool undo(Map_Layers& layers, Tile_Map& corners, int& current);
-    bool redo(Map_Layers& layers, Tile_Map& corners, int& current);
+    bool undo(Map_Layers& layers, Tile_Map& corners, Terrain_Set& terrain, int& current);
+    bool redo(Map_Layers& layers, Tile_Map& corners, Terrain_Set& terrain, int& current);
     bool can_undo() const { return done.size() > 0; }
     size_t cells_kept() const { return kept_cells; }
     bool can_redo() const { return undone.size() > 0; }
@@ -61,7 +66,10 @@ public:
 
     // A tile leaves the list for now: the edits that named it keep a mark of
     // it (an empty cell to the map) that returned() turns back into its index.
-    void leaving(int index, int mark) { remap([index, mark](int t) { return t == index ? mark : t; }); }
+    void leaving(int index, int mark) {
+        remap([index, mark](int t) { return t == index ? mark : t; });
+        for_each_set([index, mark](Terrain_Set& s) { s.move_tile(index, mark); });
+    }
     void returned(int mark, int index) {
         for (auto* list : {&done, &undone})
             for (Map_Edit& edit : *list)
@@ -69,6 +77,7 @@ public:
                     if (c.before == mark) c.before = index;
                     if (c.after == mark) c.after = index;
                 }
+        for_each_set([index, mark](Terrain_Set& s) { s.move_tile(mark, index); });
     }
     // Marks are negative and below empty, so no change of the list moves them.
     static constexpr int first_mark = Tile_Map::empty - 1;
@@ -76,14 +85,17 @@ public:
     void tile_inserted(int index) {
         remap([index](int t) { return Tile_Map::inserted(t, index); });
         for_each_stored_layer([index](const auto& l) { l->cells.tile_inserted(index); });
+        for_each_set([index](Terrain_Set& s) { s.tile_inserted(index); });
     }
     void tile_removed(int index) {
         remap([index](int t) { return Tile_Map::removed(t, index); });
         for_each_stored_layer([index](const auto& l) { l->cells.tile_removed(index); });
+        for_each_set([index](Terrain_Set& s) { s.tile_removed(index); });
     }
     void tiles_swapped(int a, int b) {
         remap([a, b](int t) { return Tile_Map::swapped(t, a, b); });
         for_each_stored_layer([a, b](const auto& l) { l->cells.tiles_swapped(a, b); });
+        for_each_set([a, b](Terrain_Set& s) { s.tiles_swapped(a, b); });
     }
 
     // The layers only the history holds: removed ones a step would bring
@@ -97,6 +109,14 @@ public:
     }
 
 private:
+    template <typename Visit>
+    void for_each_set(Visit visit) {
+        for (auto* list : {&done, &undone})
+            for (Map_Edit& edit : *list)
+                for (Terrain_Set* set : {edit.terrain_before.get(), edit.terrain_after.get()})
+                    if (set) visit(*set);
+    }
+
     template <typename Change>
     void remap(Change change) {
         auto one = [&](int t) { return t < 0 ? t : change(t); };

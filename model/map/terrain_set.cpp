@@ -115,6 +115,15 @@ void Terrain_Set::tile_inserted(int index) {
     members.swap(moved);
 }
 
+void Terrain_Set::move_tile(int from, int to) {
+    const auto it = members.find(from);
+    if (it == members.end()) return;
+    index_stale = true;
+    const Corners c = it->second;
+    members.erase(it);
+    members[to] = c;
+}
+
 void Terrain_Set::tile_removed(int index) {
     index_stale = true;
     std::map<int, Corners> moved;

@@ -61,6 +61,9 @@ public:
 
     // The set follows the tile list as the map's cells do.
     void tile_inserted(int index);
+    // The corners kept under one tile index move to another (the map's
+    // history keeps a deleted tile's under a negative mark until it returns).
+    void move_tile(int from, int to);
     void tile_removed(int index);
     void tiles_swapped(int a, int b);
 

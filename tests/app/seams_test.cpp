@@ -77,14 +77,26 @@ TEST_F(SeamsTest, UndoAndRedoOfTheTileListGiveBackTheTilesInOrderWithTheirMapCel
     run(command_redo);
     run(command_undo);
     EXPECT_EQ(map.map().at(0, 0), 1);
-    // A layer removed before the tile was deleted brings its cells back with it.
+    // A layer removed, and a terrain set marked, before the tile was deleted
+    // bring the tile's cells and corners back with it.
+    Terrain_Set set;
+    set.add_terrain(), set.add_terrain();
+    set.set_corners(1, {1, 1, 2, 2});
+    ASSERT_TRUE(map.set_terrain(set));
     ASSERT_TRUE(map.add_layer());
     map.place(5, 5, 1);
     ASSERT_TRUE(map.remove_layer());
+    ASSERT_TRUE(map.remove_terrain(1));
+    EXPECT_EQ(map.terrain().corners(1), (Terrain_Set::Corners{0, 0, 1, 1}));
     run(command_delete_tile);
     run(command_undo);
     ASSERT_TRUE(map.undo());
+    EXPECT_TRUE(map.terrain() == set) << "the removal undone, the tile's corners back";
+    ASSERT_TRUE(map.undo());
     EXPECT_EQ(map.map().at(5, 5), 1);
+    ASSERT_TRUE(map.undo());
+    ASSERT_TRUE(map.undo());
+    EXPECT_TRUE(map.terrain().is_empty()) << "marking the set was a step too";
 
     // With one tile, delete clears it and redo clears it again.
     ASSERT_TRUE(g_editor->tilesets().new_tileset(8, 8));

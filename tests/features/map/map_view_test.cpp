@@ -189,14 +189,21 @@ TEST_F(MapViewTest, TheTerrainToolMarksCornersPaintsThemAndShowsWhatIsMissing) {
         click(quarter(1, 0, 0));
         push_click(centre(view.cell_area(0, 0)).x, centre(view.cell_area(0, 0)).y);
         push_key(SDLK_I);  // the map's image, as a PNG
+        // "+" adds a third terrain; the right button on its swatch takes it away.
+        push_key(SDLK_T);
+        click(centre(view.terrain_swatch(3)));
+        push_click(centre(view.terrain_swatch(3)).x, centre(view.terrain_swatch(3)).y, SDL_BUTTON_RIGHT);
         push_key(SDLK_ESCAPE);
     });
     Temp_Dir dir;
     answer_files_with((dir.path / "shore.bmp").string());
     EXPECT_EQ(g_editor->execute(command_map_editor), command_select_tile);  // stone was chosen
     EXPECT_FALSE(script.ran_out());
-    const Map_Editor& m = tileset().map();
+    Map_Editor& m = tileset().map();
     EXPECT_EQ(m.terrain().terrain_count(), 2);
+    ASSERT_TRUE(m.undo());
+    EXPECT_EQ(m.terrain().terrain_count(), 3) << "the removal was a step";
+    ASSERT_TRUE(m.redo());
     EXPECT_TRUE(missing_frame.red > 200 && missing_frame.green < 60 && missing_frame.blue > 200)
         << "a missing cell is framed in magenta";
     EXPECT_EQ(m.terrain().corners(1), (Terrain_Set::Corners{1, 1, 2, 1}));
