@@ -137,7 +137,7 @@ void Preview_Pane::draw_map(const Map_Editor& map, const Tile_Store& store, cons
                       std::equal(shown_pixels.begin(), shown_pixels.end(), live->pixels(),
                                  live->pixels() + live->pixel_count());
     if (!same) {
-        const Layer_Stack layers(map, store, live, live_index);
+        layers.show(map, store, live, live_index);
         // The first cell holding the tile in the middle of the body.
         const int ox = (first % layers.columns()) * tw + tw / 2 - body_width / 2;
         const int oy = (first / layers.columns()) * th + th / 2 - body_height / 2;

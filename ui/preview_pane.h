@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "model/color/color.h"
+#include "model/map/layer_stack.h"
 #include "ui/pane.h"
 
 class Texture;
@@ -71,5 +72,7 @@ private:
     int searched_index = -1;
     int searched_cell = -1;
     std::vector<Color> picture;
+    // The map's visible layers, gathered again at each composition.
+    Layer_Stack layers;
     std::unique_ptr<Texture> texture;
 };

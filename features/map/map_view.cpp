@@ -133,9 +133,17 @@ const std::vector<int>& Map_View::missing_cells() {
     return missing;
 }
 
+const Layer_Stack& Map_View::visible_layers() {
+    if (stacked_generation != editor.generation()) {
+        layers.show(editor, store);
+        stacked_generation = editor.generation();
+    }
+    return layers;
+}
+
 const std::vector<Seam>& Map_View::seam_list() {
     if (checked_generation != editor.generation()) {
-        checker.run(Layer_Stack(editor, store), store);
+        checker.run(visible_layers(), store);
         checked_generation = editor.generation();
     }
     return checker.seams();

@@ -7,6 +7,7 @@
 #include <string>
 #include <vector>
 
+#include "model/map/layer_stack.h"
 #include "model/map/seam_check.h"
 #include "model/tile/picture.h"
 #include "ui/pane.h"
@@ -109,6 +110,8 @@ private:
     void compose_chooser();
     void draw_buttons();
     void compose_picture();
+    // The visible layers, gathered again when the map changed.
+    const Layer_Stack& visible_layers();
     void draw_status();
     void draw_terrain();
     void terrain_press(float x, float y, Uint8 mouse_button);
@@ -151,6 +154,8 @@ private:
     std::unique_ptr<Texture> map_image;
     std::unique_ptr<Texture> chooser_image;
     Seam_Check checker;
+    Layer_Stack layers;
+    uint64_t stacked_generation = ~uint64_t(0);
     int terrain = 1;
     int brush_turn = 0;
     int last_corner_x = -1;

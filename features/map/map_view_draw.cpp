@@ -13,27 +13,21 @@
 #include "model/map/layer_stack.h"
 #include "model/map/map_editor.h"
 #include "features/map/map_view.h"
+#include "features/map/map_view_style.h"
 #include "ui/checkerboard.h"
 #include "platform/text_writer.h"
 #include "ui/ui_style.h"
 
+using namespace map_view_style;
+
 namespace {
 constexpr int checker_cell = 8;
-// An empty cell, darker than the checkerboard a transparent tile shows.
-constexpr Color empty_color = ui_colors[ui_dark_grey];
-constexpr Color grid_color = ui_colors[ui_grey_128];
-constexpr Color seam_color = ui_colors[ui_red];
-constexpr Color chosen_color = ui_colors[ui_cyan];
-constexpr Color hover_color = ui_colors[ui_white];
-constexpr Color pressed_face = ui_colors[ui_background];
 // A seam mark covers this many pixels on each side of its edge.
 constexpr int seam_half_width = 1;
 
 const char* const button_labels[Map_View::button_count] = {
     "Paint", "Fill", "Eraser", "Terrain", "Grid",   "Seams", "Preview", "Undo",
     "Redo",  "Image", "Close", "New",    "Delete", "Raise", "Lower",   "Rename"};
-constexpr Color missing_color = ui_colors[ui_magenta];
-constexpr Color mark_frame = ui_colors[ui_black];
 
 // The tile's pixel at (x, y) of a picture of w x h pixels showing it whole.
 Color sampled(const Tile& tile, int x, int y, int w, int h) {
@@ -46,7 +40,7 @@ Color sampled(const Tile& tile, int x, int y, int w, int h) {
 void Map_View::compose_map() {
     if (composed_generation == editor.generation() && map_image) return;
     composed_generation = editor.generation();
-    const Layer_Stack layers(editor, store);
+    const Layer_Stack& layers = visible_layers();
     const int cw = int(store.tile_width()) * factor;
     const int ch = int(store.tile_height()) * factor;
     const int stride = layers.columns() * cw;

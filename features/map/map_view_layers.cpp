@@ -4,22 +4,17 @@
 #include <cstring>
 
 #include "features/map/map_view.h"
+#include "features/map/map_view_style.h"
 #include "model/map/map_editor.h"
 #include "platform/globals.h"
 #include "platform/main_window.h"
 #include "platform/text_writer.h"
-#include "ui/ui_style.h"
+
+using namespace map_view_style;
 
 namespace {
 constexpr int eye_size = 12;
 constexpr size_t longest_name = 40;
-constexpr Color current_face = ui_colors[ui_background];
-constexpr Color current_frame = ui_colors[ui_cyan];
-constexpr Color eye_frame = ui_colors[ui_black];
-constexpr Color eye_face = ui_colors[ui_white];
-constexpr Color eye_shown = ui_colors[ui_black];
-constexpr Color typing_frame = ui_colors[ui_white];
-constexpr Color selected_name = ui_colors[ui_cyan];
 
 // The character a key types into a layer's name, or 0.
 char typed_char(const SDL_KeyboardEvent& key) {
@@ -95,15 +90,15 @@ void Map_View::draw_layers() {
     for (int i = 0; i < editor.layer_count(); ++i) {
         const Rectangle r = layer_row(i);
         if (i == editor.current_layer()) {
-            w.fill_opaque(r, current_face);
-            w.frame(r, current_frame);
+            w.fill_opaque(r, pressed_face);
+            w.frame(r, chosen_color);
         }
         const Rectangle eye = layer_eye(i);
         // A ticked box for a shown layer.
-        w.fill_opaque(eye, eye_face);
-        w.frame(eye, eye_frame);
+        w.fill_opaque(eye, box_face);
+        w.frame(eye, mark_frame);
         if (editor.layer(i).visible)
-            w.fill_opaque(Rectangle{eye.x + 3, eye.y + 3, eye.width - 6, eye.height - 6}, eye_shown);
+            w.fill_opaque(Rectangle{eye.x + 3, eye.y + 3, eye.width - 6, eye.height - 6}, mark_frame);
         // The name as much as fits; while typed, its end and a cursor.
         const bool typing = i == renaming;
         const std::string& shown = typing ? typed_name : editor.layer(i).name;
@@ -116,10 +111,10 @@ void Map_View::draw_layers() {
             name[length + 1] = '\0';
         };
         for (fill(); length > 0 && t.measure(name) > room; fill()) typing ? ++from, --length : --length;
-        if (typing) w.frame(r, typing_frame);
+        if (typing) w.frame(r, hover_color);
         if (typing && name_selected)
             w.fill_opaque(Rectangle{eye.x + eye.width + 5, r.y + 3, std::min(t.measure(name), room) + 2, r.height - 6},
-                          selected_name);
+                          chosen_color);
         t.write_at(eye.x + eye.width + 6, r.y + (r.height - t.line_height()) / 2, name);
     }
 }

@@ -7,31 +7,40 @@
 #include "model/map/tile_map.h"
 #include "model/tile/tile_store.h"
 
-namespace {
-std::vector<const Tile_Map*> visible_layers(const Map_Editor& editor) {
-    std::vector<const Tile_Map*> shown;
-    for (int i = 0; i < editor.layer_count(); ++i)
-        if (editor.layer(i).visible) shown.push_back(&editor.layer(i).cells);
-    return shown;
-}
-}  // namespace
-
 Layer_Stack::Layer_Stack(std::vector<const Tile_Map*> layers, const Tile_Store& store, const Tile* live,
                          int live_index)
-    : maps(std::move(layers)), live_tile(live), live_at(live ? live_index : -2) {
-    for (const auto& tile : store.all()) tile_list.push_back(tile.get());
+    : maps(std::move(layers)) {
     if (maps.size() > size_t(most)) maps.resize(size_t(most));
-    opaque.assign(tile_list.size(), int8_t(-1));
+    width = height = 0;
     for (const Tile_Map* m : maps) {
         width = std::max(width, m->columns());
         height = std::max(height, m->rows());
     }
+    take_tiles(store, live, live_index);
 }
 
-Layer_Stack::Layer_Stack(const Map_Editor& editor, const Tile_Store& store, const Tile* live, int live_index)
-    : Layer_Stack(visible_layers(editor), store, live, live_index) {
+Layer_Stack::Layer_Stack(const Map_Editor& editor, const Tile_Store& store, const Tile* live, int live_index) {
+    show(editor, store, live, live_index);
+}
+
+void Layer_Stack::show(const Map_Editor& editor, const Tile_Store& store, const Tile* live, int live_index) {
+    maps.clear();
+    for (int i = 0; i < editor.layer_count() && int(maps.size()) < most; ++i)
+        if (editor.layer(i).visible) maps.push_back(&editor.layer(i).cells);
     width = editor.map().columns();
     height = editor.map().rows();
+    take_tiles(store, live, live_index);
+}
+
+// The vectors are refilled, not made anew: a view shows the stack again at
+// every change of the map.
+void Layer_Stack::take_tiles(const Tile_Store& store, const Tile* live, int live_index) {
+    live_tile = live;
+    live_at = live ? live_index : -2;
+    live_opaque = -1;
+    tile_list.clear();
+    for (const auto& tile : store.all()) tile_list.push_back(tile.get());
+    opaque.assign(tile_list.size(), int8_t(-1));
 }
 
 bool Layer_Stack::is_opaque(int index, const Tile* tile) const {

@@ -30,6 +30,10 @@ public:
                 int live_index = -2);
     // The editor's visible layers.
     Layer_Stack(const Map_Editor& editor, const Tile_Store& store, const Tile* live = nullptr, int live_index = -2);
+    // Nothing shown until show().
+    Layer_Stack() = default;
+    // The editor's visible layers as they stand now, in place of what was shown.
+    void show(const Map_Editor& editor, const Tile_Store& store, const Tile* live = nullptr, int live_index = -2);
 
     int columns() const { return width; }
     int rows() const { return height; }
@@ -48,6 +52,7 @@ public:
 
 private:
     bool is_opaque(int index, const Tile* tile) const;
+    void take_tiles(const Tile_Store& store, const Tile* live, int live_index);
 
     std::vector<const Tile_Map*> maps;
     // The store's tiles by index: looked up once, not per cell.
@@ -55,8 +60,8 @@ private:
     // Per tile index: -1 not looked at yet, 0 has a clear pixel, 1 opaque.
     mutable std::vector<int8_t> opaque;
     mutable int8_t live_opaque = -1;
-    const Tile* live_tile;
-    int live_at;
+    const Tile* live_tile = nullptr;
+    int live_at = -2;
     int width = 0;
     int height = 0;
 };
