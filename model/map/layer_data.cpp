@@ -98,8 +98,16 @@ void csv_cells(const std::string& text, size_t max_cells, Decoded& d) {
         int digits = 0;
         bool bad = false;
         while (*at != ',' && *at != '\0') {
+            if (is_space(*at)) {
+                const char* next = at;
+                while (is_space(*next)) ++next;
+                at = next;
+                // A row's last number needs no comma before the line break:
+                // a number never runs on across white space.
+                if (digits > 0 && *next >= '0' && *next <= '9') break;
+                continue;
+            }
             const char c = *at++;
-            if (is_space(c)) continue;
             if (c < '0' || c > '9' || digits >= 10) {
                 bad = true;
                 continue;
